@@ -1,0 +1,30 @@
+// What every courtmere-cli command shares: the global options and the session
+// built from them.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/scripted_ui.h"
+#include "store/session.h"
+
+namespace courtmere::cli {
+
+struct CliContext {
+  std::string home;              // --home; empty means the desktop program's folder
+  std::optional<uint64_t> seed;  // --seed; fixed-seed mode when given
+  ScriptedUi ui{nullptr};
+  std::unique_ptr<Session> session;
+
+  // Builds the session and runs the program's start-up (the store is open
+  // afterwards).
+  Session& StartSession();
+};
+
+// Each command adds itself to the app; its callback runs the command.
+void AddInitCommand(CLI::App& app, CliContext& context);
+
+}  // namespace courtmere::cli

@@ -1,0 +1,26 @@
+// courtmere-cli: the program's flows without the desktop window.
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "cli_context.h"
+
+int main(int argc, char** argv) {
+  courtmere::cli::CliContext context;
+  CLI::App app{"Courtmere, a college-basketball head-coach simulation, on the command line"};
+  app.require_subcommand(1);
+  app.add_option("--home", context.home,
+                 "The program folder (default: the desktop program's folder)");
+  app.add_option("--seed", context.seed, "Fix the random seed so a run replays exactly");
+
+  courtmere::cli::AddInitCommand(app, context);
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& e) {
+    return app.exit(e);
+  } catch (const std::exception& e) {
+    std::cerr << "courtmere-cli: " << e.what() << '\n';
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,190 @@
+#include "platform/file_cipher.h"
+
+#include <sodium.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace courtmere {
+namespace {
+
+constexpr std::string_view kMagic = "CMRSAVE1";
+constexpr std::string_view kSqliteHeader{"SQLite format 3\0", 16};
+constexpr size_t kChunk = 64 * 1024;
+constexpr size_t kSaltBytes = crypto_pwhash_SALTBYTES;
+constexpr size_t kHeaderBytes = crypto_secretstream_xchacha20poly1305_HEADERBYTES;
+constexpr size_t kABytes = crypto_secretstream_xchacha20poly1305_ABYTES;
+
+using Key = std::array<unsigned char, crypto_secretstream_xchacha20poly1305_KEYBYTES>;
+
+struct FileCloser {
+  void operator()(FILE* f) const { std::fclose(f); }
+};
+using File = std::unique_ptr<FILE, FileCloser>;
+
+File OpenFile(const std::filesystem::path& path, const char* mode) {
+  return File(std::fopen(path.c_str(), mode));
+}
+
+void AppendBytes(std::vector<unsigned char>& out, const void* data, size_t size) {
+  const size_t at = out.size();
+  out.resize(at + size);
+  std::memcpy(out.data() + at, data, size);
+}
+
+bool ReadAll(const std::filesystem::path& path, std::vector<unsigned char>& bytes) {
+  File f = OpenFile(path, "rb");
+  if (!f) return false;
+  bytes.clear();
+  unsigned char buffer[kChunk];
+  size_t n;
+  while ((n = std::fread(buffer, 1, sizeof buffer, f.get())) > 0) {
+    AppendBytes(bytes, buffer, n);
+  }
+  return std::ferror(f.get()) == 0;
+}
+
+bool StartsWith(const std::vector<unsigned char>& bytes, std::string_view prefix) {
+  return bytes.size() >= prefix.size() &&
+         std::memcmp(bytes.data(), prefix.data(), prefix.size()) == 0;
+}
+
+std::optional<Key> DeriveKey(std::string_view passphrase, const unsigned char* salt) {
+  Key key;
+  if (crypto_pwhash(key.data(), key.size(), passphrase.data(), passphrase.size(), salt,
+                    crypto_pwhash_OPSLIMIT_INTERACTIVE, crypto_pwhash_MEMLIMIT_INTERACTIVE,
+                    crypto_pwhash_ALG_ARGON2ID13) != 0) {
+    return std::nullopt;
+  }
+  return key;
+}
+
+std::optional<std::vector<unsigned char>> Encipher(const std::vector<unsigned char>& plain,
+                                                   std::string_view passphrase) {
+  std::vector<unsigned char> out;
+  out.reserve(kMagic.size() + kSaltBytes + kHeaderBytes + plain.size() +
+              (plain.size() / kChunk + 1) * kABytes);
+  AppendBytes(out, kMagic.data(), kMagic.size());
+  unsigned char salt[kSaltBytes];
+  randombytes_buf(salt, sizeof salt);
+  AppendBytes(out, salt, sizeof salt);
+  std::optional<Key> key = DeriveKey(passphrase, salt);
+  if (!key) return std::nullopt;
+
+  crypto_secretstream_xchacha20poly1305_state state;
+  unsigned char header[kHeaderBytes];
+  crypto_secretstream_xchacha20poly1305_init_push(&state, header, key->data());
+  AppendBytes(out, header, sizeof header);
+
+  size_t pos = 0;
+  do {
+    const size_t len = std::min(kChunk, plain.size() - pos);
+    const bool last = pos + len == plain.size();
+    const size_t at = out.size();
+    out.resize(at + len + kABytes);
+    crypto_secretstream_xchacha20poly1305_push(
+        &state, out.data() + at, nullptr, plain.data() + pos, len, nullptr, 0,
+        last ? crypto_secretstream_xchacha20poly1305_TAG_FINAL : 0);
+    pos += len;
+  } while (pos < plain.size());
+  sodium_memzero(key->data(), key->size());
+  return out;
+}
+
+std::optional<std::vector<unsigned char>> Decipher(const std::vector<unsigned char>& sealed,
+                                                   std::string_view passphrase) {
+  const size_t prefix = kMagic.size() + kSaltBytes + kHeaderBytes;
+  if (sealed.size() < prefix + kABytes) return std::nullopt;
+  std::optional<Key> key = DeriveKey(passphrase, sealed.data() + kMagic.size());
+  if (!key) return std::nullopt;
+
+  crypto_secretstream_xchacha20poly1305_state state;
+  const unsigned char* header = sealed.data() + kMagic.size() + kSaltBytes;
+  if (crypto_secretstream_xchacha20poly1305_init_pull(&state, header, key->data()) != 0) {
+    return std::nullopt;
+  }
+  sodium_memzero(key->data(), key->size());
+
+  std::vector<unsigned char> plain;
+  size_t pos = prefix;
+  bool final = false;
+  while (pos < sealed.size()) {
+    if (final) return std::nullopt;  // bytes after the final chunk
+    const size_t len = std::min(kChunk + kABytes, sealed.size() - pos);
+    if (len < kABytes) return std::nullopt;
+    const size_t at = plain.size();
+    plain.resize(at + len - kABytes);
+    unsigned long long written = 0;
+    unsigned char tag = 0;
+    if (crypto_secretstream_xchacha20poly1305_pull(&state, plain.data() + at, &written, &tag,
+                                                   sealed.data() + pos, len, nullptr, 0) != 0) {
+      return std::nullopt;
+    }
+    plain.resize(at + written);
+    final = tag == crypto_secretstream_xchacha20poly1305_TAG_FINAL;
+    pos += len;
+  }
+  if (!final) return std::nullopt;  // truncated at a chunk boundary
+  return plain;
+}
+
+// Writes beside `out`, syncs and renames over it.
+bool WriteAtomically(const std::filesystem::path& out, const std::vector<unsigned char>& bytes) {
+  std::filesystem::path temp = out;
+  temp += ".cipher-tmp";
+  {
+    File f = OpenFile(temp, "wb");
+    if (!f) return false;
+    const bool ok = std::fwrite(bytes.data(), 1, bytes.size(), f.get()) == bytes.size() &&
+                    std::fflush(f.get()) == 0 && fsync(fileno(f.get())) == 0;
+    if (!ok) {
+      f.reset();
+      std::error_code ignored;
+      std::filesystem::remove(temp, ignored);
+      return false;
+    }
+  }
+  std::error_code ec;
+  std::filesystem::rename(temp, out, ec);
+  if (ec) {
+    std::filesystem::remove(temp, ec);
+    return false;
+  }
+  return true;
+}
+
+bool SodiumReady() {
+  static const bool ready = sodium_init() >= 0;
+  return ready;
+}
+
+}  // namespace
+
+bool IsEnciphered(const std::filesystem::path& file) {
+  File f = OpenFile(file, "rb");
+  if (!f) return false;
+  char magic[kMagic.size()];
+  return std::fread(magic, 1, sizeof magic, f.get()) == sizeof magic &&
+         std::memcmp(magic, kMagic.data(), kMagic.size()) == 0;
+}
+
+bool CipherFile(const std::filesystem::path& in, const std::filesystem::path& out,
+                std::string_view passphrase) {
+  if (!SodiumReady()) return false;
+  std::vector<unsigned char> bytes;
+  if (!ReadAll(in, bytes)) return false;
+  std::optional<std::vector<unsigned char>> result;
+  if (StartsWith(bytes, kMagic)) {
+    result = Decipher(bytes, passphrase);
+  } else if (StartsWith(bytes, kSqliteHeader)) {
+    result = Encipher(bytes, passphrase);
+  }
+  return result && WriteAtomically(out, *result);
+}
+
+}  // namespace courtmere
