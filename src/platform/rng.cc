@@ -48,8 +48,8 @@ int Rng::R(double m, double a) {
 
 void Rng::Reseed() {
   uint64_t x = ++reseeds_ ^ (fixed_ ? 0 : ClockTicks());
-  s_[0] ^= SplitMix(x);
-  s_[2] ^= SplitMix(x);
+  // Every word takes fresh bits: the very next output reads s_[1].
+  for (auto& word : s_) word ^= SplitMix(x);
   // xoshiro must never hold an all-zero state.
   if ((s_[0] | s_[1] | s_[2] | s_[3]) == 0) s_[0] = 1;
 }

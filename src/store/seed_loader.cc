@@ -141,7 +141,9 @@ std::string SeedTableOf(std::string_view path) {
 
 void LoadSeedCsv(Store& store, std::string_view path, std::string_view table,
                  std::string_view csvText) {
+  Store::Transaction tx(store);  // a refused file leaves no rows behind
   SeedFileLoader(store, path, table).Load(csvText);
+  tx.Commit();
 }
 
 }  // namespace courtmere

@@ -1,0 +1,66 @@
+#include "platform/rng.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace courtmere {
+namespace {
+
+std::vector<double> Draws(Rng& rng, int n, bool reseedBetween) {
+  std::vector<double> out;
+  for (int i = 0; i < n; ++i) {
+    if (reseedBetween) rng.Reseed();
+    out.push_back(rng.Rnd());
+  }
+  return out;
+}
+
+TEST(RngTest, FixedSeedReplaysExactlyEvenWithReseeds) {
+  Rng a(42), b(42);
+  EXPECT_TRUE(a.Fixed());
+  EXPECT_EQ(Draws(a, 500, true), Draws(b, 500, true));
+  Rng c(43);
+  EXPECT_NE(Draws(a, 10, false), Draws(c, 10, false));
+}
+
+TEST(RngTest, ReseedChangesTheStream) {
+  Rng a(7), b(7);
+  a.Reseed();
+  EXPECT_NE(a.Rnd(), b.Rnd());
+}
+
+TEST(RngTest, ClockModeIsNotFixed) {
+  Rng clock;
+  EXPECT_FALSE(clock.Fixed());
+  EXPECT_FALSE(Rng::FromOption(std::nullopt).Fixed());
+  EXPECT_TRUE(Rng::FromOption(5).Fixed());
+}
+
+TEST(RngTest, RndRollAndRStayInRange) {
+  Rng rng(1);
+  std::vector<int> rollCounts(7, 0);
+  for (int i = 0; i < 60000; ++i) {
+    double x = rng.Rnd();
+    ASSERT_GE(x, 0.0);
+    ASSERT_LT(x, 1.0);
+    int roll = rng.Roll(6);
+    ASSERT_GE(roll, 1);
+    ASSERT_LE(roll, 6);
+    ++rollCounts[roll];
+    int r = rng.R(10, 5);
+    ASSERT_GE(r, 5);
+    ASSERT_LE(r, 15);
+  }
+  for (int face = 1; face <= 6; ++face) {
+    EXPECT_NEAR(rollCounts[face], 10000, 500) << "face " << face;
+  }
+}
+
+TEST(RngTest, RollOfOneIsAlwaysOne) {
+  Rng rng(3);
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(rng.Roll(1), 1);
+}
+
+}  // namespace
+}  // namespace courtmere
