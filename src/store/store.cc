@@ -141,6 +141,9 @@ Store::Store(const std::filesystem::path& file) : file_(file), db_(OpenDatabase(
   // Rollback journal with full syncs at commit: the file is whole after every
   // committed step, and closing leaves nothing beside it to copy or cipher.
   db_.exec("PRAGMA journal_mode = DELETE");
+  // One program, one connection: holding the file lock for the whole session
+  // spares every read its lock and cache-validation system calls.
+  db_.exec("PRAGMA locking_mode = EXCLUSIVE");
   db_.exec("PRAGMA synchronous = FULL");
   db_.exec("PRAGMA foreign_keys = OFF");
 }
