@@ -24,12 +24,12 @@ struct ScoutSkills {
   int Handling = 0;
 };
 
-// Letters of the normal scale: "A" above 74, "B" above 62, "C" above 49,
+// Letters of the normal scale (a grade is the one-letter text): "A" above 74, "B" above 62, "C" above 49,
 // "D" above 40, else "F".
-const char* GradeLetter(double x);
+char GradeLetter(double x);
 // Letters of the potential scale: "A" above 75, "B" above 60, "C" above 50,
 // "D" above 40, else "F".
-const char* PotentialGradeLetter(double x);
+char PotentialGradeLetter(double x);
 
 // The size of a scout's error for his skill in the column that applies.
 int ScoutSpread(int skill);

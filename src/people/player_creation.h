@@ -11,7 +11,9 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "people/player.h"
 #include "people/player_writer.h"
@@ -51,6 +53,17 @@ struct PlayerBatch {
   IdCounters ids;
   PositionCounters positions;
   RecruitInterestHook recruitInterest;
+
+  // Seed rows read once per batch: the sizes of the name pools and the high
+  // schools of each region, in the table's order.
+  struct HighSchoolRow {
+    std::string highSchool;
+    std::string homeTown;
+    std::string area;
+  };
+  int firstNameRows = -1;
+  int lastNameRows = -1;
+  std::map<std::string, std::vector<HighSchoolRow>> highSchools;
 };
 
 // Makes `count` Player rows for `team`, with hometowns of `region`; `year` is

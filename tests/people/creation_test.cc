@@ -1,0 +1,273 @@
+// Creating players: rosters, recruit classes, walk-ons and background teams.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "people/league_fixture.h"
+#include "people/player_creation.h"
+#include "people/player_writer.h"
+#include "people/rating.h"
+#include "store/session.h"
+
+namespace courtmere {
+namespace {
+
+std::vector<Player> PlayersOf(Store& store, const std::string& team) {
+  std::vector<Player> players;
+  std::vector<int> ids;
+  for (Rows rows = store.Query("SELECT Id FROM Player WHERE Team = ? ORDER BY Id", team);
+       rows.Next();) {
+    ids.push_back(rows.Int(0));
+  }
+  for (int id : ids) {
+    Player p;
+    LoadPlayer(store, id, p);
+    players.push_back(p);
+  }
+  return players;
+}
+
+// Everything stored that follows from the base ratings must follow from them.
+void ExpectConsistent(const Player& stored) {
+  Player p = stored;
+  ComputeDerivedRatings(p);
+  ComputeOverall(p);
+  EXPECT_EQ(p.ShotBlock, stored.ShotBlock) << stored.Id;
+  EXPECT_EQ(p.Steal, stored.Steal);
+  EXPECT_EQ(p.OffRebounding, stored.OffRebounding);
+  EXPECT_EQ(p.DefRebounding, stored.DefRebounding);
+  EXPECT_DOUBLE_EQ(p.Overall, stored.Overall);
+}
+
+void ExpectInRange(const Player& p) {
+  for (int Player::*r :
+       {&Player::Jumpshot, &Player::InScoring, &Player::ThreePoint, &Player::PerrDefense,
+        &Player::PostDefense, &Player::DefReb, &Player::OffReb, &Player::Handling,
+        &Player::OffAware, &Player::DefAware, &Player::Passing, &Player::Strength}) {
+    EXPECT_GE(p.*r, 15) << p.Id;
+    EXPECT_LE(p.*r, 100) << p.Id;
+  }
+  EXPECT_GE(p.Quickness, 20);
+  EXPECT_LE(p.Quickness, 77);
+  EXPECT_GE(p.Jumping, 30);
+  EXPECT_LE(p.Jumping, 77);
+  EXPECT_GE(p.FreeThrow, 20);
+  EXPECT_LE(p.FreeThrow, 95);
+  EXPECT_GE(p.Endurance, 1800);
+  EXPECT_LE(p.Endurance, 2150);
+  EXPECT_GE(p.Range, 12);
+  EXPECT_LE(p.Range, 24);
+  EXPECT_GE(p.Potential, 30);
+  EXPECT_LE(p.Potential, 90);
+  EXPECT_GE(p.Intelligence, 30);
+  EXPECT_LE(p.Intelligence, 80);
+  EXPECT_GE(p.AvoidInjury, 45);
+  EXPECT_LE(p.AvoidInjury, 100);
+  EXPECT_GT(p.GPA, 1.6);
+  EXPECT_LE(p.GPA, 4.0);
+  EXPECT_EQ(p.Reach, HeightInches(p.Height));
+  EXPECT_EQ(p.Health, "Good");
+}
+
+TEST(CreateTeamRoster, ThirteenPlayersThreeOfEachClassAndOneMore) {
+  testing::LeagueFixture league(21);
+  for (int team = 0; team < 8; ++team) {
+    const std::string school = "School " + std::to_string(team);
+    league.AddTeam(school, "Midwest", 40 + team * 7);
+    league.AddScout(school, 60);
+    CreateTeamRoster(league.session(), school, "Midwest", 40 + team * 7);
+    const auto players = PlayersOf(league.store(), school);
+    ASSERT_EQ(players.size(), 13u);
+    std::map<std::string, int> years;
+    std::array<int, 6> positions{};
+    for (size_t i = 0; i < players.size(); ++i) {
+      const Player& p = players[i];
+      ++years[p.PlayerYear];
+      if (i < 12) ++positions[p.PlayerPosition];
+      EXPECT_EQ(p.NBAFlag, p.PlayerYear == "Senior" ? 1 : 0);
+      EXPECT_EQ(p.Team, school);
+      EXPECT_EQ(p.Name.substr(0, 2), "Fn");
+      EXPECT_EQ(p.AbbrName.substr(0, 4), "F. L");
+      EXPECT_EQ(p.HomeTown.substr(p.HomeTown.size() - 3), ",KS");
+      EXPECT_FALSE(p.PotentialGrade.empty());
+      ExpectConsistent(p);
+      ExpectInRange(p);
+    }
+    for (const char* year : {"Freshman", "Sophomore", "Junior", "Senior"}) {
+      EXPECT_GE(years[year], 3);
+      EXPECT_LE(years[year], 4);
+    }
+    for (int position = kPG; position <= kC; ++position) EXPECT_LE(positions[position], 3);
+    EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM PlayerStats"), 13 * (team + 1));
+  }
+  EXPECT_EQ(league.store().ScalarInt("SELECT NextId FROM Config WHERE IdConfig = 0"), 1 + 8 * 13);
+  EXPECT_EQ(league.session().config.NextId, 1 + 8 * 13);
+}
+
+TEST(CreatePlayers, ARegionBatchOf25FillsEveryPositionToItsCap) {
+  testing::LeagueFixture league(5);
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  int hooked = 0;
+  batch.recruitInterest = [&hooked](Session&, Recruit& r, const Player&) {
+    r.Team1 = "Somewhere";
+    ++hooked;
+  };
+  CreatePlayers(league.session(), batch, "South", "South", 60, 25, 0, 5);
+  batch.Save(league.session());
+  std::array<int, 6> positions{};
+  for (const Player& p : PlayersOf(league.store(), "South")) {
+    ++positions[p.PlayerPosition];
+    EXPECT_EQ(p.PlayerYear, "Recruit");
+    EXPECT_EQ(p.NBAFlag, 0);
+  }
+  for (int position = kPG; position <= kC; ++position) EXPECT_EQ(positions[position], 5);
+  EXPECT_EQ(hooked, 25);
+  EXPECT_EQ(league.store().RowCount("Recruit"), 25);
+  EXPECT_EQ(league.store().ScalarInt("SELECT NumRecruits FROM Config WHERE IdConfig = 0"), 25);
+  EXPECT_EQ(league.store().ScalarInt(
+                "SELECT count(*) FROM Recruit WHERE Region = 'South' AND Team1 = 'Somewhere' AND "
+                "ScoutingReport <> '' AND Area = 'KS' AND PPG > 0 AND GPA > 0"),
+            25);
+}
+
+TEST(CreatePlayers, PrestigeZeroMakesOnlyPoorPlayers) {
+  testing::LeagueFixture league(6);
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  CreatePlayers(league.session(), batch, "West", "West", 0, 30, 0, 6);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Recruit WHERE RecruitType = 'Poor'"),
+            30);
+}
+
+TEST(CreatePlayers, AFullPositionHandsTheRollOn) {
+  testing::LeagueFixture league(8);
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  std::array<int, 6> made{};
+  for (int i = 0; i < 150; ++i) {
+    // Only the shooting guards are full: a rolled guard goes to C, the first
+    // position with room, with a centre's height.
+    batch.positions.Clear();
+    batch.positions[kSG] = 1;
+    CreatePlayers(league.session(), batch, "Team A", "East", 50, 1, 1, 1);
+  }
+  for (const Player& p : PlayersOf(league.store(), "Team A")) {
+    ++made[p.PlayerPosition];
+    if (p.PlayerPosition == kC) {
+      EXPECT_GE(p.Reach, 79);
+      EXPECT_LE(p.Reach, 86);
+    }
+  }
+  EXPECT_EQ(made[kSG], 0);
+  EXPECT_GT(made[kC], made[kPF]);  // its own rolls and the guards' rolls
+
+  // Only the point guards have room: everyone becomes a point guard.
+  for (int i = 0; i < 40; ++i) {
+    batch.positions.Clear();
+    for (int position : {kSG, kSF, kPF, kC}) batch.positions[position] = 2;
+    CreatePlayers(league.session(), batch, "Team B", "East", 50, 1, 1, 2);
+  }
+  for (const Player& p : PlayersOf(league.store(), "Team B")) {
+    EXPECT_EQ(p.PlayerPosition, kPG);
+    EXPECT_GE(p.Reach, 68);
+    EXPECT_LE(p.Reach, 74);
+  }
+
+  // A full centre with room at PF: always a PF, of the height of the roll 30.
+  for (int i = 0; i < 60; ++i) {
+    batch.positions.Clear();
+    batch.positions[kC] = 1;
+    batch.positions[kPG] = batch.positions[kSG] = batch.positions[kSF] = 1;
+    CreatePlayers(league.session(), batch, "Team C", "East", 50, 1, 1, 1);
+  }
+  for (const Player& p : PlayersOf(league.store(), "Team C")) {
+    EXPECT_EQ(p.PlayerPosition, kPF);
+    EXPECT_GE(p.Reach, 77);
+    EXPECT_LE(p.Reach, 82);
+  }
+}
+
+TEST(CreatePlayers, WithNoPositionBelowTheCapTheRollIsTakenAsItCame) {
+  testing::LeagueFixture league(9);
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  for (int position = kPG; position <= kC; ++position) batch.positions[position] = 1;
+  CreatePlayers(league.session(), batch, "Team A", "East", 50, 20, 1, 1);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Team A'"), 20);
+}
+
+TEST(AddWalkOns, FillsShortRostersWithSeniors) {
+  testing::LeagueFixture league(10);
+  league.AddTeam("Short U", "East", 70);
+  league.AddTeam("Full U", "East", 70);
+  for (int i = 0; i < 10; ++i) league.AddPlayer("Short U", kPG, 50);
+  for (int i = 0; i < 13; ++i) league.AddPlayer("Full U", kPG, 50);
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  AddWalkOns(league.session(), batch);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Short U'"), 13);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Full U'"), 13);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Short U' AND "
+                                     "PlayerYear = 'Senior' AND NBAFlag = 1"),
+            3);
+}
+
+TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
+  testing::LeagueFixture league(12);
+  league.AddTeam("West U", "West", 70);
+  league.AddTeam("East U", "East", 70);
+  league.AddPlayer("West U", kPG, 60, "Senior");
+  league.AddPlayer("West U", kSG, 60, "Senior");
+  const int star = league.AddPlayer("West U", kSF, 90, "Junior");  // above 86: always leaves
+  const int good = league.AddPlayer("West U", kSF, 78, "Junior");  // potential 0: stays
+  league.AddPlayer("East U", kC, 95, "Junior");                    // another region
+  EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 2 + 1 + 5);
+  EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", star), 1);
+  EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", good), 0);
+}
+
+TEST(RegionRecruits, ReturningJuniorCollegeMenCountAgainstTheClass) {
+  testing::LeagueFixture league(13);
+  league.AddTeam("West U", "West", 70);
+  league.AddPlayer("West U", kPG, 60, "Senior");
+  const int jc = league.AddPlayer("West", kC, 55, "JC");
+  league.store().Append("Recruit", {{"Id", int64_t{jc}},
+                                    {"Region", "West"},
+                                    {"Area", "CA"},
+                                    {"RecruitType", "Good"},
+                                    {"TeamChoice", "Old U"},
+                                    {"InEligible", int64_t{2001}}});
+  PlayerBatch batch = PlayerBatch::Begin(league.session());
+  CreateRegionRecruits(league.session(), batch, "West");
+  // N = 1 senior + 0 leavers + 5; one returns, five are new.
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'West'"), 6);
+  EXPECT_EQ(league.store().RowCount("Recruit"), 6);
+  Rows rows = league.store().Query(
+      "SELECT RecruitType, Area, InEligible, TeamChoice, ScoutingReport FROM Recruit WHERE Id = ?",
+      jc);
+  ASSERT_TRUE(rows.Next());
+  EXPECT_EQ(rows.Text(0), "Good");
+  EXPECT_EQ(rows.Text(1), "CA");
+  EXPECT_EQ(rows.Int(2), 0);
+  EXPECT_TRUE(rows.IsNull(3));
+  EXPECT_NE(rows.Text(4), "");
+}
+
+TEST(CreateScrubTeamRoster, ThirteenBackgroundPlayersWithoutSideRows) {
+  testing::LeagueFixture league(14);
+  league.AddScrubTeam("Little U", 45);
+  CreateScrubTeamRoster(league.session(), "Little U", 45);
+  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM ScrubPlayer WHERE Team = 'Little U'"),
+            13);
+  for (const char* year : {"Freshman", "Sophomore", "Junior", "Senior"}) {
+    const auto n = league.store().ScalarInt(
+        "SELECT count(*) FROM ScrubPlayer WHERE Team = 'Little U' AND PlayerYear = ?", year);
+    EXPECT_GE(*n, 3);
+    EXPECT_LE(*n, 4);
+  }
+  EXPECT_EQ(league.store().RowCount("PlayerStats"), 0);
+  EXPECT_EQ(league.store().RowCount("Player"), 0);
+  // Background heights: a centre of the two last rolls is exactly 86 or 87.
+  EXPECT_EQ(league.store().ScalarInt(
+                "SELECT count(*) FROM ScrubPlayer WHERE Reach > 87 OR Reach < 65 OR Overall <= 0"),
+            0);
+}
+
+}  // namespace
+}  // namespace courtmere
