@@ -8,6 +8,8 @@
 
 #include <string>
 
+#include "store/player_stats_store.h"
+
 namespace courtmere {
 
 struct Session;
@@ -31,9 +33,15 @@ void SetTeamLineup(Session& session, const std::string& school, int onlyIfMissin
 // Builds the chart of a ScrubTeam row whose PG1 is 0.
 void SetScrubLineup(Session& session, const std::string& school);
 
-// Choose the one inactive player and mark him on his row; 0 when the team
-// has no players.
+// Clear the team's inactive marks and choose the one inactive player: a
+// redshirt, else the weakest man who can't play, else the weakest; 0 when
+// the team has no players. The lineup then marks him.
 int PickInactive(Session& session, const std::string& school);
 int PickScrubInactive(Session& session, const std::string& school);
+
+// Estimates the season line of every background player from his ratings
+// into the in-memory statistics, `games` being his games played. A team
+// without an entry takes the first free one, its players in id order.
+void UpdateScrubStats(Session& session, PlayerStatsStore& stats, int games);
 
 }  // namespace courtmere
