@@ -1,0 +1,139 @@
+#include "engine/play_log.h"
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+
+#include "engine/engine_error.h"
+#include "engine/live_screen.h"
+#include "engine/substitution.h"
+
+namespace courtmere {
+
+namespace {
+
+constexpr size_t kLogWidth = 96;
+
+void AppendTwoDigits(std::string& out, int value) {
+  if (value < 10 && value >= 0) out += '0';
+  out += std::to_string(value);
+}
+
+std::string Upper(std::string_view text) {
+  std::string out(text);
+  for (char& c : out) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  return out;
+}
+
+// The side whose man a line names: the offence for "Offense" and "Pass"
+// lines, the defence for every other kind.
+Side LineSide(const Game& game, PlayKind kind) {
+  return (kind == PlayKind::Offense || kind == PlayKind::Pass) ? game.Possession
+                                                               : OtherSide(game.Possession);
+}
+
+std::string Body(PlayKind kind, std::string_view text, std::string_view name) {
+  std::string body;
+  if (kind == PlayKind::Pass) {
+    body.append(text).append(" ").append(name);
+  } else if (kind == PlayKind::Foul) {
+    body.append(text);
+  } else {
+    body.append(name).append(" ").append(text);
+  }
+  return body;
+}
+
+std::string ListLine(PlayKind kind, std::string_view label, std::string_view text,
+                     std::string_view name) {
+  if (kind == PlayKind::Subs) return {};
+  std::string line(label);
+  line += "   ";
+  line += Body(kind, text, name);
+  return line;
+}
+
+void ShowOnScreen(Game& game, std::string_view text, PlayKind kind, std::string_view name,
+                  Side side) {
+  std::string label(1, '(');
+  label += Upper(game.SideOf(side).Team().TeamName);
+  label += ')';
+  game.screen->ShowPlay(game, kind, text, ListLine(kind, label, text, name));
+}
+
+void FillEmptySlots(Game& game) {
+  for (int slot = 1; slot <= 5; ++slot) {
+    for (Side side : {Side::Home, Side::Away}) {
+      // Design decision: the energy floor for this emergency fill is 0, so
+      // anyone fit to play is taken.
+      if (game.SideOf(side).Court[slot].Id == 0) SubstitutePlayer(game, slot, side, 0);
+    }
+  }
+}
+
+}  // namespace
+
+std::string FormatLogLine(const Game& game, std::string_view body) {
+  std::string line = std::to_string(game.Half);
+  line += " - ";
+  AppendTwoDigits(line, game.Clock / 60);
+  line += ':';
+  AppendTwoDigits(line, game.Clock % 60);
+  line += " - ";
+  AppendTwoDigits(line, game.ShotClock);
+  line += ": ";
+  line.append(body);
+  // A line longer than the width keeps its text and is not cut.
+  if (line.size() < kLogWidth) line.append(kLogWidth - line.size(), ' ');
+  line += std::to_string(game.Home().Score);
+  line += " - ";
+  line += std::to_string(game.Away().Score);
+  return line;
+}
+
+void PostPlay(Game& game, std::string_view text, PlayKind kind) {
+  if (game.UserTimeoutAsked == 1) game.UserTimeoutDue = 1;
+  game.Clock = std::max(game.Clock, 0);
+  game.ShotClock = std::max(game.ShotClock, 0);
+
+  const bool wantsText = game.WantsText();
+  std::string name;
+  const Side side = LineSide(game, kind);
+  if (wantsText) name = game.SideOf(side).Court[game.BallPos].AbbrName;
+  if (game.Live()) ShowOnScreen(game, text, kind, name, side);
+
+  if (kind != PlayKind::Foul) FillEmptySlots(game);
+
+  if (game.WriteLog && kind != PlayKind::Subs) {
+    game.GameLogLines.push_back(FormatLogLine(game, Body(kind, text, name)));
+    ++game.LogCount;
+  }
+}
+
+void ResetPeriodLines(Game& game) {
+  game.GameLogLines.clear();
+  game.LogCount = 0;
+}
+
+void StartGameLog(const Game& game) {
+  if (!game.WriteLog) return;
+  std::ofstream out(game.GameLogFileName, std::ios::binary | std::ios::trunc);
+  if (!out) throw EngineError("cannot create the game log " + game.GameLogFileName.string());
+  out << game.Away().Team().TeamName << " at " << game.Home().Team().TeamName << "\n\n";
+}
+
+void AppendPeriodLog(const Game& game) {
+  if (!game.WriteLog || game.LogCount == 0) return;
+  std::ofstream out(game.GameLogFileName, std::ios::binary | std::ios::app);
+  if (!out) throw EngineError("cannot write the game log " + game.GameLogFileName.string());
+  const std::string& home = game.Home().Team().TeamName;
+  const std::string& away = game.Away().Team().TeamName;
+  const long gap = 65 - static_cast<long>(home.size()) - static_cast<long>(away.size());
+  out << "Time/ShotClock" << std::string(15, ' ') << "Action"
+      << std::string(static_cast<size_t>(std::max(gap, 0L)), ' ') << home << '-' << away << '\n';
+  for (const std::string& line : game.GameLogLines) out << line << '\n';
+  // The entry at LogCount is always empty: it closes the block.
+  out << '\n';
+}
+
+}  // namespace courtmere

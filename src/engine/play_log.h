@@ -1,0 +1,41 @@
+// Posting of play-by-play lines, and the game log file they end up in.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/game_model.h"
+
+namespace courtmere {
+
+// Posts one line. Turns a pending timeout request into a due one, raises a
+// negative clock or shot clock to 0, shows the line on a watched live screen,
+// fills any empty floor slot (except after a "Foul" line, whose caller finds
+// the replacement itself) and, when a log is written, adds the log line.
+// `text` may be empty when the game wants no texts.
+void PostPlay(Game& game, std::string_view text, PlayKind kind);
+
+// Posts a line whose text is built only when someone will read it.
+template <class MakeText>
+void PostPlayWith(Game& game, PlayKind kind, MakeText&& makeText) {
+  if (game.WantsText()) {
+    const std::string text = makeText();
+    PostPlay(game, text, kind);
+  } else {
+    PostPlay(game, std::string_view(), kind);
+  }
+}
+
+// The log line of a play: half, clock, shot clock, the body, padded with
+// blanks to 96 characters, then the score.
+std::string FormatLogLine(const Game& game, std::string_view body);
+
+// The game log file: created with its heading at the start of a game, and
+// given one block per period that has lines.
+void StartGameLog(const Game& game);
+void AppendPeriodLog(const Game& game);
+
+// Empties the current period's lines.
+void ResetPeriodLines(Game& game);
+
+}  // namespace courtmere

@@ -1,0 +1,205 @@
+#include "engine/substitution.h"
+
+#include <string>
+#include <utility>
+
+#include "engine/injury.h"
+#include "engine/live_screen.h"
+#include "engine/play_log.h"
+
+namespace courtmere {
+
+namespace {
+
+constexpr int kFouledOut = 5;
+
+// Rows: Half 1; Half 2 above 600; Half 2 301-600; Half 2 to 300; overtime.
+struct PatternLimits {
+  int minEnergy[5];
+  int returnMargin[5];
+};
+
+constexpr PatternLimits kNormal = {{1450, 1400, 1150, 950, 900}, {200, 150, 150, 100, 100}};
+constexpr PatternLimits kMore = {{1500, 1500, 1300, 1100, 1100}, {200, 150, 100, 100, 100}};
+constexpr PatternLimits kLess = {{1350, 1250, 1000, 900, 900}, {150, 150, 100, 100, 100}};
+
+int PeriodRow(const Game& game) {
+  if (game.Half == 1) return 0;
+  if (game.Half == 2) {
+    if (game.Clock > 600) return 1;
+    if (game.Clock > 300) return 2;
+    return 3;
+  }
+  return 4;
+}
+
+const PatternLimits& LimitsOf(SubPattern pattern) {
+  switch (pattern) {
+    case SubPattern::More:
+      return kMore;
+    case SubPattern::Less:
+      return kLess;
+    default:
+      return kNormal;
+  }
+}
+
+bool UserCoached(const Game& game, Side side) {
+  return game.Live() && game.UserSide == side && !game.screen->AutoSubstitution();
+}
+
+// Step 3 of the floor check: men with five fouls or a real injury leave.
+void RemoveMenWhoMustLeave(Game& game) {
+  for (int slot = 1; slot <= 5; ++slot) {
+    for (Side side : {Side::Home, Side::Away}) {
+      GameSide& team = game.SideOf(side);
+      GamePlayer& man = team.Court[slot];
+      const GameStat* line = team.FindStat(man.Id);
+      const bool fouledOut = line != nullptr && line->Fouls >= kFouledOut;
+      if (!fouledOut && man.TimeInjured <= 1) continue;
+      PostPlayWith(game, PlayKind::Foul, [&] {
+        return man.AbbrName +
+               (fouledOut ? " fouled out of the game" : " left the game with an injury");
+      });
+      man.Id = 0;
+      SubstitutePlayer(game, slot, side, 0);
+      if (UserCoached(game, side)) {
+        game.SubForced = 1;
+        game.screen->PlayerMustLeave(game, fouledOut);
+      }
+    }
+  }
+}
+
+}  // namespace
+
+FloorCheckLine FloorCheck(const Game& game, SubPattern pattern, Side side) {
+  const int row = PeriodRow(game);
+  const PatternLimits& limits = LimitsOf(pattern);
+  static constexpr int kMaxFouls[5] = {3, 4, 5, 5, 5};
+  int maxFouls = kMaxFouls[row];
+  if (row == 2 && side == Side::Away) maxFouls = 4;
+  return {limits.minEnergy[row], maxFouls, limits.returnMargin[row], row >= 2 ? 1 : 0};
+}
+
+const std::array<int, 7>& SubstitutionOrder(int slot) {
+  static constexpr std::array<std::array<int, 7>, 6> kOrder = {{
+      {0, 0, 0, 0, 0, 0, 0},
+      {1, 6, 11, 7, 12, 8, 13},
+      {2, 7, 12, 8, 13, 6, 11},
+      {3, 8, 13, 7, 12, 9, 14},
+      {4, 9, 14, 10, 15, 8, 13},
+      {5, 10, 15, 9, 14, 8, 13},
+  }};
+  return kOrder[slot];
+}
+
+int DepthCandidate(const Game& game, int entry, Side side, int minEnergy) {
+  const GameSide& team = game.SideOf(side);
+  const int id = team.Depth[entry];
+  if (id == 0 || team.OnCourt(id)) return 0;
+  // A chart Id who is not in the roster has a blank line: no energy, no fouls.
+  const GameStat* line = team.FindStat(id);
+  const int energy = line != nullptr ? line->Energy : 0;
+  const int fouls = line != nullptr ? line->Fouls : 0;
+  const GamePlayer* record = team.FindRoster(id);
+  const int timeInjured = record != nullptr ? record->TimeInjured : 0;
+  if (energy < minEnergy) return 0;
+  if (fouls >= kFouledOut) return 0;
+  if (timeInjured > 1) return 0;
+  if (game.Half == 1 && fouls >= 3) return 0;
+  if (game.Half == 2 && game.Clock >= 301 && fouls >= 4) return 0;
+  return id;
+}
+
+void SubstitutePlayer(Game& game, int slot, Side side, int minEnergy) {
+  GameSide& team = game.SideOf(side);
+  int id = 0;
+  for (int entry : SubstitutionOrder(slot)) {
+    id = DepthCandidate(game, entry, side, minEnergy);
+    if (id != 0) break;
+  }
+
+  int b = 0;
+  for (int i = 1; i <= GameSide::kBenchPlaces; ++i) {
+    if (team.Bench[i].Id == id) b = i;
+  }
+
+  if (b == 0) {
+    // Nobody on the bench: the reserve queue turns. The man in the slot goes
+    // to its head place and then to the back; the next reserve comes in.
+    std::swap(team.Court[slot], team.Reserve[0]);
+    for (int k = 0; k < team.ReserveCount; ++k) std::swap(team.Reserve[k], team.Reserve[k + 1]);
+    team.IsStarter[slot] = team.Court[slot].Id == team.Depth[slot] ? 1 : 0;
+    return;
+  }
+
+  GamePlayer outgoing = team.Court[slot].Id == 0 ? team.Reserve[1] : std::move(team.Court[slot]);
+  team.Court[slot] = std::move(team.Bench[b]);
+  team.IsStarter[slot] = team.Court[slot].Id == team.Depth[slot] ? 1 : 0;
+  if (game.WriteLog) {
+    // Substitutions are noted in the log without time or score.
+    game.GameLogLines.push_back(team.Team().TeamName + " SUB - " + team.Court[slot].AbbrName +
+                                " in for " + outgoing.AbbrName);
+    ++game.LogCount;
+  }
+  team.Bench[b] = std::move(outgoing);
+}
+
+void RotatePlayer(Game& game, Side side, int slot, const FloorCheckLine& line) {
+  GameSide& team = game.SideOf(side);
+  const int starterId = team.Depth[slot];
+  if (team.Court[slot].Id != starterId) {
+    const GameStat* starter = team.FindStat(starterId);
+    const int energy = starter != nullptr ? starter->Energy : 0;
+    const int fouls = starter != nullptr ? starter->Fouls : 0;
+    if (energy > line.MinEnergy + line.ReturnMargin && fouls < line.MaxFouls) {
+      SubstitutePlayer(game, slot, side, line.MinEnergy);
+    }
+    return;
+  }
+  const GameStat& own = game.LineOf(team, team.Court[slot]);
+  if (own.Fouls >= line.MaxFouls || own.Energy < line.MinEnergy) {
+    SubstitutePlayer(game, slot, side, line.MinEnergy);
+    return;
+  }
+  const int lead = side == Side::Home ? game.Home().Score - game.Away().Score
+                                      : game.Away().Score - game.Home().Score;
+  if (line.RestLeaders == 1 && team.IsStarter[slot] == 1 && lead >= 20) {
+    SubstitutePlayer(game, slot, side, line.MinEnergy);
+  }
+}
+
+void CheckSubs(Game& game) {
+  game.SubWindow = 1;
+  InjuryCheck(game);
+  RemoveMenWhoMustLeave(game);
+
+  int minEnergy = 0;
+  for (int slot = 1; slot <= 5; ++slot) {
+    for (Side side : {Side::Home, Side::Away}) {
+      if (UserCoached(game, side)) continue;
+      if (side == game.Possession && slot == game.BallPos) continue;
+      const GamePlayer& man = game.SideOf(side).Court[slot];
+      const FloorCheckLine line = FloorCheck(game, man.Pattern, side);
+      minEnergy = line.MinEnergy;
+      RotatePlayer(game, side, slot, line);
+    }
+  }
+  for (int slot = 1; slot <= 5; ++slot) {
+    for (Side side : {Side::Home, Side::Away}) {
+      if (UserCoached(game, side)) continue;
+      GameSide& team = game.SideOf(side);
+      if (team.Court[slot].Id == 0 || team.FindStat(team.Court[slot].Id) == nullptr) {
+        SubstitutePlayer(game, slot, side, minEnergy);
+      }
+    }
+  }
+
+  if (game.Live()) {
+    if (game.UserSubAsked == 1) game.screen->OpenSubstitutions(game);
+    game.screen->ShowSubs(game);
+  }
+}
+
+}  // namespace courtmere

@@ -1,0 +1,149 @@
+#include "engine/team_loader.h"
+
+#include <algorithm>
+
+#include "engine/engine_error.h"
+#include "platform/numeric.h"
+#include "store/session.h"
+
+namespace courtmere {
+
+namespace {
+
+constexpr const char* kTeamChart =
+    "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
+    "OffenseType, Defense, Press, Owner FROM Team WHERE SchoolName = ?";
+constexpr const char* kScrubChart =
+    "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
+    "OffenseType, Defense, Press FROM ScrubTeam WHERE SchoolName = ?";
+
+// The player columns in the order ReadPlayer reads them; the background
+// table has no substitution pattern.
+#define COURTMERE_PLAYER_COLUMNS                                                                \
+  "Id, Name, AbbrName, PlayerYear, Team, PlayerPosition, AvoidInjury, Health, TimeInjured, "    \
+  "Intelligence, Jumpshot, InScoring, Range, ThreePoint, FreeThrow, PerrDefense, PostDefense, " \
+  "DefReb, OffReb, ShotBlock, Steal, OffRebounding, DefRebounding, Handling, OffAware, "        \
+  "DefAware, Passing, Jumping, Quickness, Endurance, Strength, Reach"
+
+constexpr const char* kPlayers =
+    "SELECT " COURTMERE_PLAYER_COLUMNS
+    ", SubPattern FROM Player WHERE Team = ? AND Inactive = 0 AND Suspended = 0 AND "
+    "TimeInjured = 0 AND Redshirt <> 1 ORDER BY Id";
+constexpr const char* kScrubPlayers = "SELECT " COURTMERE_PLAYER_COLUMNS
+                                      ", '' FROM ScrubPlayer WHERE Team = ? AND Inactive = 0 "
+                                      "AND TimeInjured = 0 ORDER BY Id";
+#undef COURTMERE_PLAYER_COLUMNS
+
+void ReadChart(GameSide& side, Rows& rows) {
+  for (int n = 1; n <= GameSide::kDepthEntries; ++n) side.Depth[n] = rows.Int(n - 1);
+  side.tactics.SetTempo(rows.Text(15));
+  side.tactics.SetOffenseType(rows.Text(16));
+  side.tactics.SetDefense(rows.Text(17));
+  side.tactics.SetPress(rows.Text(18));
+}
+
+GamePlayer ReadPlayer(Rows& rows) {
+  GamePlayer p;
+  int c = 0;
+  p.Id = rows.Int(c++);
+  p.Name = rows.Text(c++);
+  p.AbbrName = rows.Text(c++);
+  p.PlayerYear = rows.Text(c++);
+  p.Team = rows.Text(c++);
+  p.PlayerPosition = rows.Int(c++);
+  p.AvoidInjury = rows.Int(c++);
+  p.Health = rows.Text(c++);
+  p.TimeInjured = 0;  // a player who dresses is not hurt
+  ++c;
+  for (int* field :
+       {&p.Intelligence,  &p.Jumpshot,      &p.InScoring, &p.Range,    &p.ThreePoint, &p.FreeThrow,
+        &p.PerrDefense,   &p.PostDefense,   &p.DefReb,    &p.OffReb,   &p.ShotBlock,  &p.Steal,
+        &p.OffRebounding, &p.DefRebounding, &p.Handling,  &p.OffAware, &p.DefAware,   &p.Passing,
+        &p.Jumping,       &p.Quickness,     &p.Endurance, &p.Strength, &p.Reach}) {
+    *field = rows.Int(c++);
+  }
+  p.Pattern = ParseSubPattern(rows.Text(c));
+  return p;
+}
+
+}  // namespace
+
+void LoadDepthAndTactics(Game& game, Side side) {
+  GameSide& team = game.SideOf(side);
+  Store& store = game.session->Db();
+  {
+    Rows rows = store.Query(kTeamChart, team.School);
+    if (rows.Next()) {
+      ReadChart(team, rows);
+      team.UserTeam = rows.Text(19) == "Human";
+      return;
+    }
+  }
+  Rows rows = store.Query(kScrubChart, team.School);
+  if (rows.Next()) ReadChart(team, rows);
+}
+
+void LoadCoachValues(Game& game) {
+  Store& store = game.session->Db();
+  for (GameSide& team : game.sides) {
+    const auto off =
+        store.ScalarInt("SELECT OffCoach FROM Coach WHERE Team = ? AND OffPoints = 1", team.School);
+    if (off) {
+      team.OffCoach = static_cast<int>(*off);
+    } else {
+      Rows rows = store.Query(
+          "SELECT OffCoach, DefCoach, Trainer FROM ScrubTeam WHERE SchoolName = ?", team.School);
+      if (!rows.Next()) throw EngineError("no coach for " + team.School, 3021);
+      team.OffCoach = rows.Int(0);
+      team.DefCoach = rows.Int(1);
+      team.Trainer = rows.Int(2);
+    }
+    const auto def =
+        store.ScalarInt("SELECT DefCoach FROM Coach WHERE Team = ? AND DefPoints = 1", team.School);
+    if (def) team.DefCoach = static_cast<int>(*def);
+  }
+}
+
+void LoadTrainerValues(Game& game) {
+  Store& store = game.session->Db();
+  for (GameSide& team : game.sides) {
+    const auto ability = store.ScalarInt("SELECT Ability FROM Trainer WHERE Team = ?", team.School);
+    if (ability) team.Trainer = static_cast<int>(*ability);
+  }
+}
+
+int CrowdStrength(Game& game) {
+  Store& store = game.session->Db();
+  const std::string& school = game.Home().School;
+  for (const char* sql : {"SELECT TeamRating, Prestige FROM Team WHERE SchoolName = ?",
+                          "SELECT TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?"}) {
+    Rows rows = store.Query(sql, school);
+    if (!rows.Next()) continue;
+    const int rating = std::max(rows.Int(0), 430);
+    return CInt(rows.Double(1) * 0.6 + (rating - 430) * 0.4);
+  }
+  return 10;
+}
+
+void LoadRoster(Game& game, Side side) {
+  GameSide& team = game.SideOf(side);
+  Store& store = game.session->Db();
+  team.RosterCount = 0;
+  for (const char* sql : {kPlayers, kScrubPlayers}) {
+    Rows rows = store.Query(sql, team.School);
+    // Design decision: a team with more eligible players than the game has
+    // places dresses the first 12 in table order; the others sit the game out.
+    while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {
+      const int index = ++team.RosterCount;
+      team.Roster[index] = ReadPlayer(rows);
+      GameStat& line = team.Stats[index];
+      line = GameStat{};
+      line.Id = team.Roster[index].Id;
+      line.Energy = team.Roster[index].Endurance;
+      line.TeamName = team.Roster[index].Team;
+    }
+    if (team.RosterCount > 0) return;
+  }
+}
+
+}  // namespace courtmere
