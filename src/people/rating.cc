@@ -17,11 +17,14 @@ using Rating = int Player::*;
 // The constant of the reach terms: a reach of 76 inches adds nothing.
 constexpr int kReachBase = 76;
 
-double WeightedMean(const Player& p, std::initializer_list<std::pair<double, Rating>> terms,
-                    double divisor) {
-  double sum = 0;
+// The weights are written in hundredths so that the sum is a whole number and
+// only the division rounds: a player even across the row rates exactly his
+// rating, since each divisor is the sum of its row's weights.
+double WeightedMean(const Player& p, std::initializer_list<std::pair<int, Rating>> terms,
+                    int divisor) {
+  int sum = 0;
   for (const auto& [weight, rating] : terms) sum += weight * (p.*rating);
-  return sum / divisor;
+  return static_cast<double>(sum) / divisor;
 }
 
 void PrimaryGain(Rng& rng, Player& p, Rating rating) {
@@ -86,53 +89,53 @@ void ComputeOverall(Player& p) {
   switch (p.PlayerPosition) {
     case kPG:
       p.Overall = WeightedMean(p,
-                               {{0.8, &P::Passing},
-                                {0.8, &P::Handling},
-                                {0.8, &P::PerrDefense},
-                                {0.75, &P::Jumpshot},
-                                {0.6, &P::Quickness},
-                                {0.6, &P::ThreePoint}},
-                               4.35);
+                               {{80, &P::Passing},
+                                {80, &P::Handling},
+                                {80, &P::PerrDefense},
+                                {75, &P::Jumpshot},
+                                {60, &P::Quickness},
+                                {60, &P::ThreePoint}},
+                               435);
       break;
     case kSG:
       p.Overall = WeightedMean(p,
-                               {{0.8, &P::ThreePoint},
-                                {0.8, &P::Jumpshot},
-                                {0.8, &P::PerrDefense},
-                                {0.75, &P::Handling},
-                                {0.6, &P::Quickness},
-                                {0.6, &P::Passing}},
-                               4.35);
+                               {{80, &P::ThreePoint},
+                                {80, &P::Jumpshot},
+                                {80, &P::PerrDefense},
+                                {75, &P::Handling},
+                                {60, &P::Quickness},
+                                {60, &P::Passing}},
+                               435);
       break;
     case kSF:
       p.Overall = WeightedMean(p,
-                               {{0.8, &P::OffReb},
-                                {0.8, &P::Jumpshot},
-                                {0.8, &P::PerrDefense},
-                                {0.6, &P::InScoring},
-                                {0.5, &P::Quickness},
-                                {0.5, &P::ThreePoint}},
-                               4.0);
+                               {{80, &P::OffReb},
+                                {80, &P::Jumpshot},
+                                {80, &P::PerrDefense},
+                                {60, &P::InScoring},
+                                {50, &P::Quickness},
+                                {50, &P::ThreePoint}},
+                               400);
       break;
     case kPF:
       p.Overall = WeightedMean(p,
-                               {{0.8, &P::OffReb},
-                                {0.8, &P::InScoring},
-                                {0.8, &P::DefReb},
-                                {0.8, &P::PostDefense},
-                                {0.6, &P::Jumpshot},
-                                {0.4, &P::Passing}},
-                               4.2);
+                               {{80, &P::OffReb},
+                                {80, &P::InScoring},
+                                {80, &P::DefReb},
+                                {80, &P::PostDefense},
+                                {60, &P::Jumpshot},
+                                {40, &P::Passing}},
+                               420);
       break;
     case kC:
       p.Overall = WeightedMean(p,
-                               {{0.8, &P::OffReb},
-                                {0.8, &P::InScoring},
-                                {0.8, &P::DefReb},
-                                {0.8, &P::PostDefense},
-                                {0.5, &P::Strength},
-                                {0.4, &P::Passing}},
-                               4.1);
+                               {{80, &P::OffReb},
+                                {80, &P::InScoring},
+                                {80, &P::DefReb},
+                                {80, &P::PostDefense},
+                                {50, &P::Strength},
+                                {40, &P::Passing}},
+                               410);
       break;
     default:
       break;  // an unknown position keeps its Overall

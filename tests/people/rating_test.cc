@@ -58,7 +58,7 @@ TEST(Overall, EvenPlayerOfEveryPositionRatesHisRating) {
   for (int position = kPG; position <= kC; ++position) {
     Player p = Even(position, 70);
     ComputeOverall(p);
-    EXPECT_NEAR(p.Overall, 70.0, 1e-9) << PositionName(position);
+    EXPECT_EQ(p.Overall, 70.0) << PositionName(position);
   }
 }
 

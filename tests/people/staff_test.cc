@@ -29,7 +29,7 @@ TEST(StaffCreation, ANewDynastyGivesEachSchoolItsStaffAndTwoCandidatesOfEach) {
     EXPECT_EQ(Count(s, "SELECT count(*) FROM Trainer WHERE Team = ?", school), 1);
     EXPECT_EQ(Count(s, "SELECT count(*) FROM Trainer WHERE Team = ?", looking), 2);
   }
-  EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Coach WHERE Name NOT LIKE 'Fn% Ln%' OR "
+  EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Coach WHERE Name NOT LIKE '_% _%' OR "
                         "OffPoints <> 0 OR RecPoints <> 0 OR RecruitRegion NOT IN "
                         "('West', 'Midwest', 'East', 'South')"),
             0);
