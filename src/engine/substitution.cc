@@ -196,6 +196,15 @@ void CheckSubs(Game& game) {
     }
   }
 
+  // Design decision: a slot that neither the chart nor the reserve queue
+  // could fill takes anyone fit to play at once (as the next play line
+  // would), so that no blank record plays between here and that line.
+  for (int slot = 1; slot <= 5; ++slot) {
+    for (Side side : {Side::Home, Side::Away}) {
+      if (game.SideOf(side).Court[slot].Id == 0) SubstitutePlayer(game, slot, side, 0);
+    }
+  }
+
   if (game.Live()) {
     if (game.UserSubAsked == 1) game.screen->OpenSubstitutions(game);
     game.screen->ShowSubs(game);

@@ -66,7 +66,8 @@ int EngineFixture::AddPlayerRow(const std::string& table, const std::string& sch
                          {"Quickness", quick},
                          {"Endurance", int64_t{1800 + rng.Roll(350)}},
                          {"Strength", strength},
-                         {"Reach", reach}});
+                         {"Reach", reach},
+                         {"Overall", static_cast<double>(base - 10 + rng.Roll(20))}});
   return id;
 }
 
@@ -138,6 +139,11 @@ void EngineFixture::AddScrubSchool(const std::string& school, int players, int b
     ids.push_back(AddPlayerRow("ScrubPlayer", school, i % 5 + 1, base, rng));
   }
   SetChart("ScrubTeam", school, ids);
+}
+
+void EngineFixture::HealEveryone() {
+  store().Exec("UPDATE Player SET TimeInjured = 0, Health = 'Good'");
+  store().Exec("UPDATE ScrubPlayer SET TimeInjured = 0, Health = 'Good'");
 }
 
 std::vector<int> EngineFixture::PlayerIds(const std::string& school, bool scrub) {

@@ -32,6 +32,9 @@ class EngineFixture {
   // A background school with its players and chart.
   void AddScrubSchool(const std::string& school, int players, int base, uint64_t seed);
 
+  // Ends every injury, as the weekly healing would.
+  void HealEveryone();
+
   // The ids of a school's players, in id order.
   std::vector<int> PlayerIds(const std::string& school, bool scrub = false);
 
