@@ -22,9 +22,10 @@ namespace {
 
 const std::vector<std::string> kRegions = {"West", "Midwest", "East", "South"};
 const std::set<std::string> kStates = {
-    "AL", "AK", "AZ", "AR", "CA", "CO", "CT", "DE", "DC", "FL", "GA", "HI", "ID", "IL", "IN", "IA", "KS",
-    "KY", "LA", "ME", "MD", "MA", "MI", "MN", "MS", "MO", "MT", "NE", "NV", "NH", "NJ", "NM", "NY", "NC",
-    "ND", "OH", "OK", "OR", "PA", "RI", "SC", "SD", "TN", "TX", "UT", "VT", "VA", "WA", "WV", "WI", "WY"};
+    "AL", "AK", "AZ", "AR", "CA", "CO", "CT", "DE", "DC", "FL", "GA", "HI", "ID",
+    "IL", "IN", "IA", "KS", "KY", "LA", "ME", "MD", "MA", "MI", "MN", "MS", "MO",
+    "MT", "NE", "NV", "NH", "NJ", "NM", "NY", "NC", "ND", "OH", "OK", "OR", "PA",
+    "RI", "SC", "SD", "TN", "TX", "UT", "VT", "VA", "WA", "WV", "WI", "WY"};
 
 // The schedule types of Part 5.1: the number of schools and the divisions each uses.
 struct SchedTypeRule {
@@ -89,8 +90,8 @@ class SeedDataTest : public ::testing::Test {
   // Sizes of the low conferences, largest first.
   static std::vector<int> LowSizesDescending() {
     std::vector<int> sizes;
-    for (Rows rows = S().Query(
-             "SELECT COUNT(*) FROM LowLeagueSetup GROUP BY Conference ORDER BY 1 DESC");
+    for (Rows rows =
+             S().Query("SELECT COUNT(*) FROM LowLeagueSetup GROUP BY Conference ORDER BY 1 DESC");
          rows.Next();) {
       sizes.push_back(rows.Int(0));
     }
@@ -303,8 +304,8 @@ TEST_F(SeedDataTest, PrestigeSpansTheBands) {
   const std::vector<std::pair<int, int>> bands = {{75, 100}, {65, 74}, {60, 64}, {50, 59},
                                                   {40, 49},  {30, 39}, {1, 29}};
   for (const auto& [lo, hi] : bands) {
-    EXPECT_GT(Int("SELECT COUNT(*) FROM (" + std::string(kAllSchools) + ") WHERE Prestige BETWEEN " +
-                  std::to_string(lo) + " AND " + std::to_string(hi)),
+    EXPECT_GT(Int("SELECT COUNT(*) FROM (" + std::string(kAllSchools) +
+                  ") WHERE Prestige BETWEEN " + std::to_string(lo) + " AND " + std::to_string(hi)),
               0)
         << lo << " to " << hi;
   }
@@ -318,7 +319,8 @@ TEST_F(SeedDataTest, TheBig12UpgradeLeavesEverySchoolInItsDivision) {
   const std::set<std::string> north = {"NEMO", "KS", "CO", "IA"};
   const std::set<std::string> south = {"OK", "TX"};
   std::map<std::string, std::string> before;
-  for (Rows rows = S().Query("SELECT SchoolName, Division FROM TeamSetup WHERE Conference = 'Big 12'");
+  for (Rows rows =
+           S().Query("SELECT SchoolName, Division FROM TeamSetup WHERE Conference = 'Big 12'");
        rows.Next();) {
     before[rows.Text(0)] = rows.Text(1);
   }
@@ -378,10 +380,11 @@ TEST_F(SeedDataTest, HighSchoolsCoverEveryRegionAndEverySchoolsArea) {
                   << rows.Text(1);
   }
   // Each area a school uses yields recruits from several towns.
-  EXPECT_EQ(Int(std::string("SELECT COUNT(*) FROM (SELECT DISTINCT Region, Area FROM (") +
-                kAllSchools + ")) s WHERE (SELECT COUNT(DISTINCT HomeTown) FROM HighSchool h "
-                              "WHERE h.Region = s.Region AND h.Area = s.Area) < 5"),
-            0);
+  EXPECT_EQ(
+      Int(std::string("SELECT COUNT(*) FROM (SELECT DISTINCT Region, Area FROM (") + kAllSchools +
+          ")) s WHERE (SELECT COUNT(DISTINCT HomeTown) FROM HighSchool h "
+          "WHERE h.Region = s.Region AND h.Area = s.Area) < 5"),
+      0);
 }
 
 // Parts 1.2, 3.2, 3.4: the name pools, drawn by Id with no gap.
@@ -458,7 +461,8 @@ TEST_F(SeedDataTest, CitiesGiveEveryRegionItsSitesAndAFinalFour) {
 TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LeagueSetup WHERE Id > 6 AND Challenge <> 0"), 0);
   int challenges = 0;
-  for (Rows rows = S().Query("SELECT Id, Challenge, Week, Day FROM LeagueSetup WHERE Challenge > 0");
+  for (Rows rows =
+           S().Query("SELECT Id, Challenge, Week, Day FROM LeagueSetup WHERE Challenge > 0");
        rows.Next();) {
     ++challenges;
     const int id = rows.Int(0), partner = rows.Int(1), week = rows.Int(2);
@@ -472,10 +476,10 @@ TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
         << "a pair is named once, or its games are made twice";
     // Part 6.1: week 1 plays Thursday to Sunday; weeks 2 to 4 and 6 to 15
     // Thursday and Saturday; week 5 plays nothing.
-    const bool played = (week == 1 && (day == "Thursday" || day == "Friday" ||
-                                       day == "Saturday" || day == "Sunday")) ||
-                         (((week >= 2 && week <= 4) || (week >= 6 && week <= 15)) &&
-                          (day == "Thursday" || day == "Saturday"));
+    const bool played = (week == 1 && (day == "Thursday" || day == "Friday" || day == "Saturday" ||
+                                       day == "Sunday")) ||
+                        (((week >= 2 && week <= 4) || (week >= 6 && week <= 15)) &&
+                         (day == "Thursday" || day == "Saturday"));
     EXPECT_TRUE(played) << "week " << week << " " << day;
   }
   EXPECT_GE(challenges, 1);
@@ -485,7 +489,8 @@ TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
 TEST_F(SeedDataTest, TheConferencesAreThoseOf2001To2002) {
   auto conferenceOf = [](const std::string& school) {
     auto c = S().ScalarText("SELECT Conference FROM TeamSetup WHERE SchoolName = ?", school);
-    if (!c) c = S().ScalarText("SELECT Conference FROM LowLeagueSetup WHERE SchoolName = ?", school);
+    if (!c)
+      c = S().ScalarText("SELECT Conference FROM LowLeagueSetup WHERE SchoolName = ?", school);
     return c.value_or("");
   };
   EXPECT_EQ(conferenceOf("Duke"), "ACC");
@@ -498,7 +503,8 @@ TEST_F(SeedDataTest, TheConferencesAreThoseOf2001To2002) {
   EXPECT_EQ(conferenceOf("Gonzaga"), "WCC");
   EXPECT_EQ(conferenceOf("Marquette"), "Conference USA");
   EXPECT_EQ(*S().ScalarText("SELECT Division FROM TeamSetup WHERE SchoolName = 'Kansas'"), "North");
-  EXPECT_EQ(*S().ScalarText("SELECT Division FROM TeamSetup WHERE SchoolName = 'Oklahoma'"), "South");
+  EXPECT_EQ(*S().ScalarText("SELECT Division FROM TeamSetup WHERE SchoolName = 'Oklahoma'"),
+            "South");
   EXPECT_EQ(*S().ScalarText("SELECT Team FROM NBASetup WHERE Team LIKE 'Memphis%'"),
             "Memphis Grizzlies");
 }
