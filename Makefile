@@ -15,7 +15,7 @@ build: configure
 	@cmake --build $(BUILD_DIR) -j$(JOBS)
 
 run: build
-	./$(BUILD_DIR)/cli/courtmere-cli init
+	./$(BUILD_DIR)/cli/courtmere-cli exhibition
 
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j$(JOBS)

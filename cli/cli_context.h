@@ -26,5 +26,7 @@ struct CliContext {
 
 // Each command adds itself to the app; its callback runs the command.
 void AddInitCommand(CLI::App& app, CliContext& context);
+void AddExhibitionCommand(CLI::App& app, CliContext& context);
+void AddBenchCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

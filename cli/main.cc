@@ -13,6 +13,8 @@ int main(int argc, char** argv) {
   app.add_option("--seed", context.seed, "Fix the random seed so a run replays exactly");
 
   courtmere::cli::AddInitCommand(app, context);
+  courtmere::cli::AddExhibitionCommand(app, context);
+  courtmere::cli::AddBenchCommand(app, context);
 
   try {
     app.parse(argc, argv);

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "engine/engine_error.h"
+#include "people/player.h"
 #include "platform/numeric.h"
 
 namespace courtmere {

@@ -9,21 +9,6 @@ const char* SideWord(Side side) {
   return side == Side::Home ? "Home" : "Away";
 }
 
-const char* PositionName(int position) {
-  switch (position) {
-    case 1:
-      return "PG";
-    case 2:
-      return "SG";
-    case 3:
-      return "SF";
-    case 4:
-      return "PF";
-    default:
-      return "C";
-  }
-}
-
 SubPattern ParseSubPattern(std::string_view text) {
   if (text == "More") return SubPattern::More;
   if (text == "Less") return SubPattern::Less;

@@ -36,9 +36,6 @@ inline Side OtherSide(Side side) {
 }
 const char* SideWord(Side side);
 
-// Display name of a natural position: "PG", "SG", "SF", "PF"; anything else "C".
-const char* PositionName(int position);
-
 enum class SubPattern : uint8_t { Normal, More, Less };
 // "More" and "Less" as such; any other text, the empty one included, is "Normal".
 SubPattern ParseSubPattern(std::string_view text);

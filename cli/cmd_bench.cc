@@ -1,0 +1,124 @@
+// courtmere-cli bench: a fixed, seeded workload of games with no files, and
+// a signature of every result. A change of game behaviour changes the
+// signature; a change that keeps it has kept the behaviour.
+#include <fmt/format.h>
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <stdexcept>
+
+#include "cli_context.h"
+#include "engine/box_score.h"
+#include "engine/run_engine.h"
+#include "exhibition_setup.h"
+#include "platform/scripted_ui.h"
+#include "store/blank_store.h"
+
+namespace courtmere::cli {
+
+namespace {
+
+constexpr uint64_t kBenchSeed = 20011;
+
+// FNV-1a over the results.
+class Signature {
+ public:
+  void Add(std::string_view text) {
+    for (unsigned char c : text) {
+      hash_ ^= c;
+      hash_ *= 1099511628211ULL;
+    }
+    hash_ ^= '\n';
+    hash_ *= 1099511628211ULL;
+  }
+  uint64_t Value() const { return hash_; }
+
+ private:
+  uint64_t hash_ = 14695981039346656037ULL;
+};
+
+// A fresh program folder in the temporary directory, removed afterwards.
+class ScratchFolder {
+ public:
+  ScratchFolder() {
+    path_ = std::filesystem::temp_directory_path() /
+            fmt::format("courtmere-bench-{}",
+                        std::chrono::steady_clock::now().time_since_epoch().count());
+    std::filesystem::create_directories(path_);
+  }
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+bool AnyoneHurt(const Game& game) {
+  for (const GameSide& side : game.sides) {
+    for (int i = 1; i <= side.RosterCount; ++i) {
+      if (side.Roster[i].TimeInjured > 0) return true;
+    }
+  }
+  return false;
+}
+
+void RunBench(CliContext& context, int games) {
+  ScratchFolder folder;
+  ScriptedUi ui;
+  Session session(ProgramFolder(folder.Path()), Rng(context.seed.value_or(kBenchSeed)), ui);
+  BuildBlankStore(session.folder.Store());
+  session.store = std::make_unique<Store>(session.folder.Store());
+  const SchoolPair pair = PrepareExhibition(session, "", "");
+  Store& store = session.Db();
+
+  Signature signature;
+  DayResults day;
+  Game game(session);
+  GameRequest request;
+  request.HomeTeam = pair.home;
+  request.AwayTeam = pair.away;
+  request.GameType = "Exhibition";
+  request.WriteFiles = false;
+  // The games run in one transaction, as a day's batch does.
+  Store::Transaction tx(store);
+  const auto start = std::chrono::steady_clock::now();
+  for (int g = 0; g < games; ++g) {
+    request.BatchIndex = g % 150 + 1;
+    request.GameNo = g + 1;
+    std::string box;
+    std::string log = "none";
+    if (RunEngine(game, day, request, box, log) != 1) {
+      throw std::runtime_error("game " + std::to_string(g + 1) + " could not be played");
+    }
+    signature.Add(
+        fmt::format("{} {} {} {}", pair.home, game.Home().Score, pair.away, game.Away().Score));
+    for (const std::string& line : FormatBoxScore(game)) signature.Add(line);
+    // The injured heal between games, so that the workload stays the same.
+    if (AnyoneHurt(game)) {
+      store.Exec("UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE Team IN (?, ?)",
+                 pair.home, pair.away);
+    }
+  }
+  const double seconds =
+      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  tx.Commit();
+  fmt::print("{} at {}: {} games\n", pair.away, pair.home, games);
+  fmt::print("signature {:016x} games {} seconds {:.3f} games_per_second {:.0f}\n",
+             signature.Value(), games, seconds, games / seconds);
+}
+
+}  // namespace
+
+void AddBenchCommand(CLI::App& app, CliContext& context) {
+  auto games = std::make_shared<int>(2000);
+  CLI::App* cmd = app.add_subcommand(
+      "bench", "Play a fixed, seeded workload of games without files and print its signature");
+  cmd->add_option("--games", *games, "Games to play (default 2000)")->check(CLI::PositiveNumber);
+  cmd->callback([&context, games] { RunBench(context, *games); });
+}
+
+}  // namespace courtmere::cli

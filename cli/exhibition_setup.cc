@@ -1,0 +1,105 @@
+#include "exhibition_setup.h"
+
+#include <stdexcept>
+
+#include "cpu/computer_roster.h"
+#include "people/player_creation.h"
+#include "people/staff_creation.h"
+
+namespace courtmere::cli {
+
+namespace {
+
+bool HasDynasty(Store& store) {
+  return store.RowCount("Team") > 0;
+}
+
+bool Exists(Store& store, const char* table, const std::string& school) {
+  const std::string sql = std::string("SELECT COUNT(*) FROM ") + table + " WHERE SchoolName = ?";
+  return store.ScalarInt(sql, school).value_or(0) > 0;
+}
+
+// Two schools of the first fixed conference, from the dynasty or the seeds.
+SchoolPair DefaultPair(Store& store) {
+  const char* sql = HasDynasty(store)
+                        ? "SELECT SchoolName FROM Team WHERE Conference = (SELECT Conference FROM "
+                          "LeagueSetup WHERE Id = 1) ORDER BY SchoolName LIMIT 2"
+                        : "SELECT SchoolName FROM TeamSetup WHERE Conference = (SELECT Conference "
+                          "FROM LeagueSetup WHERE Id = 1) ORDER BY SchoolName LIMIT 2";
+  SchoolPair pair;
+  Rows rows = store.Query(sql);
+  if (rows.Next()) pair.home = rows.Text(0);
+  if (rows.Next()) pair.away = rows.Text(0);
+  if (pair.away.empty()) throw std::runtime_error("no two schools to play an exhibition");
+  return pair;
+}
+
+// Copies a seed school to a Team row with its TeamStats row; returns its
+// region and prestige.
+std::pair<std::string, int> AddSeedSchool(Store& store, const std::string& school) {
+  for (const char* table : {"TeamSetup", "LowLeagueSetup"}) {
+    Rows rows = store.Query(std::string("SELECT State, Location, Area, Population, Colors, "
+                                        "ArenaCapacity, Conference, Region, Division, Prestige, "
+                                        "SchedGroup FROM ") +
+                                table + " WHERE SchoolName = ?",
+                            school);
+    if (!rows.Next()) continue;
+    const int prestige = rows.Int(9);
+    store.Append("Team", {{"SchoolName", school},
+                          {"State", rows.Text(0)},
+                          {"Location", rows.Text(1)},
+                          {"Area", rows.Text(2)},
+                          {"Population", rows.Int64(3)},
+                          {"Colors", rows.Text(4)},
+                          {"ArenaCapacity", rows.Int64(5)},
+                          {"Conference", rows.Text(6)},
+                          {"Region", rows.Text(7)},
+                          {"Division", rows.Text(8)},
+                          {"InitialPrestige", int64_t{prestige}},
+                          {"Prestige", static_cast<double>(prestige)},
+                          {"SchedGroup", rows.Text(10)},
+                          {"Owner", "Computer"},
+                          {"Tempo", "Normal"},
+                          {"OffenseType", "Normal"},
+                          {"Defense", "Man"},
+                          {"Press", "None"}});
+    store.Append("TeamStats", {{"SchoolName", school}});
+    return {rows.Text(7), prestige};
+  }
+  throw std::runtime_error("unknown school: " + school);
+}
+
+void SetUpFromSeeds(Session& session, const SchoolPair& pair) {
+  Store& store = session.Db();
+  Store::Transaction tx(store);
+  const auto home = AddSeedSchool(store, pair.home);
+  const auto away = AddSeedSchool(store, pair.away);
+  CreateCoaches(session, 0);
+  CreateScouts(session, 0);
+  CreateTrainers(session, 0);
+  for (const auto& [school, seed] : {std::pair{pair.home, home}, std::pair{pair.away, away}}) {
+    SetCoachRoles(session, school);
+    CreateTeamRoster(session, school, seed.first, seed.second);
+    SetTeamLineup(session, school, 0);
+  }
+  tx.Commit();
+}
+
+}  // namespace
+
+SchoolPair PrepareExhibition(Session& session, std::string home, std::string away) {
+  Store& store = session.Db();
+  SchoolPair pair = home.empty() ? DefaultPair(store) : SchoolPair{home, away};
+  if (!HasDynasty(store)) {
+    SetUpFromSeeds(session, pair);
+    return pair;
+  }
+  for (const std::string& school : {pair.home, pair.away}) {
+    if (!Exists(store, "Team", school) && !Exists(store, "ScrubTeam", school)) {
+      throw std::runtime_error("no such school in this dynasty: " + school);
+    }
+  }
+  return pair;
+}
+
+}  // namespace courtmere::cli
