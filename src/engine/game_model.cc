@@ -121,6 +121,9 @@ Game::Game(Session& s, LiveScreen* liveScreen)
     : session(&s), rng(&s.rng), screen(liveScreen), CurrWeek(s.config.CurrWeek) {}
 
 GameStat& Game::LineOf(GameSide& side, const GamePlayer& man) {
+  if (man.StatIndex > 0 && side.Stats[man.StatIndex].Id == man.Id && man.Id != 0) {
+    return side.Stats[man.StatIndex];
+  }
   GameStat* line = side.FindStat(man.Id);
   if (line != nullptr) return *line;
   Scratch = GameStat{};

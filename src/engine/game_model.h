@@ -76,6 +76,9 @@ struct GamePlayer {
   int Strength = 0;
   int Reach = 0;
   SubPattern Pattern = SubPattern::Normal;
+  // Where his statistics line stands in his side's array (0: none). A
+  // shortcut for the search by Id; the line found is the same.
+  int StatIndex = 0;
 };
 
 // The statistics line of one player, or in entry 13 of a side, of the team.
@@ -145,6 +148,11 @@ struct GameSide {
 
   std::string School;
   bool UserTeam = false;  // the school's Owner is "Human"
+  // The school's row as read with its chart: whether it was found, and its
+  // rating and prestige (for the crowd).
+  bool HasRow = false;
+  int TeamRating = 0;
+  double Prestige = 0;
 
   std::array<GamePlayer, kMaxRoster + 1> Roster{};
   int RosterCount = 0;

@@ -20,6 +20,7 @@ void ResetGame(Game& game, const GameRequest& request) {
     side.Score = side.Fouls = side.Pace = side.ShotNeed = 0;
     side.TimeoutsLeft = 3;
     side.UserTeam = false;
+    side.HasRow = false;
   }
   game.Home().School = request.HomeTeam;
   game.Away().School = request.AwayTeam;
@@ -145,7 +146,6 @@ int Play(Game& game, DayResults& day, const GameRequest& request, std::string& b
   game.Crowd = CrowdStrength(game);
   game.CourtEdge = request.CourtEdge;
   LoadCoachValues(game);
-  LoadTrainerValues(game);
   LoadRoster(game, Side::Home);
   LoadRoster(game, Side::Away);
   BuildFloor(game);

@@ -12,10 +12,10 @@ namespace {
 
 constexpr const char* kTeamChart =
     "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
-    "OffenseType, Defense, Press, Owner FROM Team WHERE SchoolName = ?";
+    "OffenseType, Defense, Press, TeamRating, Prestige, Owner FROM Team WHERE SchoolName = ?";
 constexpr const char* kScrubChart =
     "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
-    "OffenseType, Defense, Press FROM ScrubTeam WHERE SchoolName = ?";
+    "OffenseType, Defense, Press, TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?";
 
 // The player columns in the order ReadPlayer reads them; the background
 // table has no substitution pattern.
@@ -34,12 +34,22 @@ constexpr const char* kScrubPlayers = "SELECT " COURTMERE_PLAYER_COLUMNS
                                       "AND TimeInjured = 0 ORDER BY Id";
 #undef COURTMERE_PLAYER_COLUMNS
 
+// The side's offence and defence coach (by their roles) and its trainer;
+// NULL where the school has none.
+constexpr const char* kStaff =
+    "SELECT (SELECT OffCoach FROM Coach WHERE Team = ?1 AND OffPoints = 1), "
+    "(SELECT DefCoach FROM Coach WHERE Team = ?1 AND DefPoints = 1), "
+    "(SELECT Ability FROM Trainer WHERE Team = ?1)";
+
 void ReadChart(GameSide& side, Rows& rows) {
   for (int n = 1; n <= GameSide::kDepthEntries; ++n) side.Depth[n] = rows.Int(n - 1);
   side.tactics.SetTempo(rows.Text(15));
   side.tactics.SetOffenseType(rows.Text(16));
   side.tactics.SetDefense(rows.Text(17));
   side.tactics.SetPress(rows.Text(18));
+  side.HasRow = true;
+  side.TeamRating = rows.Int(19);
+  side.Prestige = rows.Double(20);
 }
 
 GamePlayer ReadPlayer(Rows& rows) {
@@ -75,7 +85,7 @@ void LoadDepthAndTactics(Game& game, Side side) {
     Rows rows = store.Query(kTeamChart, team.School);
     if (rows.Next()) {
       ReadChart(team, rows);
-      team.UserTeam = rows.Text(19) == "Human";
+      team.UserTeam = rows.Text(21) == "Human";
       return;
     }
   }
@@ -86,11 +96,12 @@ void LoadDepthAndTactics(Game& game, Side side) {
 void LoadCoachValues(Game& game) {
   Store& store = game.session->Db();
   for (GameSide& team : game.sides) {
-    const auto off =
-        store.ScalarInt("SELECT OffCoach FROM Coach WHERE Team = ? AND OffPoints = 1", team.School);
-    if (off) {
-      team.OffCoach = static_cast<int>(*off);
+    Rows staff = store.Query(kStaff, team.School);
+    staff.Next();
+    if (!staff.IsNull(0)) {
+      team.OffCoach = staff.Int(0);
     } else {
+      // Without an offence coach the team is a background team.
       Rows rows = store.Query(
           "SELECT OffCoach, DefCoach, Trainer FROM ScrubTeam WHERE SchoolName = ?", team.School);
       if (!rows.Next()) throw EngineError("no coach for " + team.School, 3021);
@@ -98,31 +109,16 @@ void LoadCoachValues(Game& game) {
       team.DefCoach = rows.Int(1);
       team.Trainer = rows.Int(2);
     }
-    const auto def =
-        store.ScalarInt("SELECT DefCoach FROM Coach WHERE Team = ? AND DefPoints = 1", team.School);
-    if (def) team.DefCoach = static_cast<int>(*def);
+    if (!staff.IsNull(1)) team.DefCoach = staff.Int(1);
+    if (!staff.IsNull(2)) team.Trainer = staff.Int(2);
   }
 }
 
-void LoadTrainerValues(Game& game) {
-  Store& store = game.session->Db();
-  for (GameSide& team : game.sides) {
-    const auto ability = store.ScalarInt("SELECT Ability FROM Trainer WHERE Team = ?", team.School);
-    if (ability) team.Trainer = static_cast<int>(*ability);
-  }
-}
-
-int CrowdStrength(Game& game) {
-  Store& store = game.session->Db();
-  const std::string& school = game.Home().School;
-  for (const char* sql : {"SELECT TeamRating, Prestige FROM Team WHERE SchoolName = ?",
-                          "SELECT TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?"}) {
-    Rows rows = store.Query(sql, school);
-    if (!rows.Next()) continue;
-    const int rating = std::max(rows.Int(0), 430);
-    return CInt(rows.Double(1) * 0.6 + (rating - 430) * 0.4);
-  }
-  return 10;
+int CrowdStrength(const Game& game) {
+  const GameSide& home = game.Home();
+  if (!home.HasRow) return 10;
+  const int rating = std::max(home.TeamRating, 430);
+  return CInt(home.Prestige * 0.6 + (rating - 430) * 0.4);
 }
 
 void LoadRoster(Game& game, Side side) {
@@ -136,6 +132,7 @@ void LoadRoster(Game& game, Side side) {
     while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {
       const int index = ++team.RosterCount;
       team.Roster[index] = ReadPlayer(rows);
+      team.Roster[index].StatIndex = index;
       GameStat& line = team.Stats[index];
       line = GameStat{};
       line.Id = team.Roster[index].Id;

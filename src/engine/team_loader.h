@@ -17,10 +17,10 @@ void LoadDepthAndTactics(Game& game, Side side);
 // The staff numbers of both sides: offence and defence coach, trainer.
 // Throws EngineError for a team with neither a coach nor a background row.
 void LoadCoachValues(Game& game);
-void LoadTrainerValues(Game& game);
 
-// The strength of the home crowd, from the home school's rating and prestige.
-int CrowdStrength(Game& game);
+// The strength of the home crowd, from the rating and prestige of the home
+// school's row as read with its chart; 10 without a row.
+int CrowdStrength(const Game& game);
 
 // The side's eligible players, in table order: the first-division players
 // if the school has any, else its background players. At most 12 dress.
