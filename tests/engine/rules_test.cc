@@ -1,0 +1,338 @@
+// The game rules most likely to be got wrong: substitution order and the
+// reserve queue, the floor check and energy tables, the tired rule, the
+// shot outcomes around 551 and 700, blocks, fouled threes, the play texts.
+#include <gtest/gtest.h>
+
+#include "engine/add_stat.h"
+#include "engine/fatigue.h"
+#include "engine/injury.h"
+#include "engine/offence.h"
+#include "engine/play_text.h"
+#include "engine/shooting.h"
+#include "engine/substitution.h"
+#include "platform/scripted_ui.h"
+#include "store/session.h"
+#include "support/temp_folder.h"
+
+namespace courtmere::testing {
+namespace {
+
+// A game in memory: two sides of 12 with full charts (entries 11 to 15
+// repeat men of the second row), everyone fresh, nobody ever hurt.
+struct Rules : ::testing::Test {
+  TempFolder folder;
+  ScriptedUi ui;
+  Session session{ProgramFolder(folder.Path()), Rng(3), ui};
+  Game game{session};
+
+  void SetUp() override {
+    for (int s = 0; s < 2; ++s) {
+      GameSide& side = game.sides[s];
+      side.ClearPeople();
+      side.Team().TeamName = s == 0 ? "Home U" : "Away U";
+      side.RosterCount = 12;
+      side.Trainer = 100;
+      for (int i = 1; i <= 12; ++i) {
+        GamePlayer& p = side.Roster[i];
+        p.Id = 100 * (s + 1) + i;
+        p.AbbrName = std::to_string(p.Id);
+        p.AbbrName.insert(0, 1, 'P');
+        p.PlayerPosition = (i - 1) % 5 + 1;
+        p.AvoidInjury = 100;
+        p.Endurance = 2000;
+        p.FreeThrow = 70;
+        p.Range = 22;
+        for (int* a : {&p.Jumpshot, &p.InScoring, &p.ThreePoint, &p.PerrDefense, &p.PostDefense,
+                       &p.ShotBlock, &p.Steal, &p.OffRebounding, &p.DefRebounding, &p.Handling,
+                       &p.OffAware, &p.DefAware, &p.Passing, &p.Quickness, &p.Strength}) {
+          *a = 60;
+        }
+        p.StatIndex = i;
+        side.Stats[i].Id = p.Id;
+        side.Stats[i].Energy = 2000;
+      }
+      for (int n = 1; n <= 15; ++n) side.Depth[n] = side.Roster[n <= 12 ? n : n - 5].Id;
+    }
+    BuildFloor(game);
+    game.Half = 1;
+    game.Clock = 1000;
+    game.LastClock = 1000;
+    game.Possession = Side::Home;
+    game.BallPos = 1;
+    game.Distance = 10;
+  }
+
+  GameSide& Home() { return game.Home(); }
+  GameStat& HomeLine(int rosterIndex) { return Home().Stats[rosterIndex]; }
+};
+
+TEST_F(Rules, SubstitutionOrderFollowsThePositionTables) {
+  EXPECT_EQ(SubstitutionOrder(1), (std::array<int, 7>{1, 6, 11, 7, 12, 8, 13}));
+  EXPECT_EQ(SubstitutionOrder(2), (std::array<int, 7>{2, 7, 12, 8, 13, 6, 11}));
+  EXPECT_EQ(SubstitutionOrder(3), (std::array<int, 7>{3, 8, 13, 7, 12, 9, 14}));
+  EXPECT_EQ(SubstitutionOrder(4), (std::array<int, 7>{4, 9, 14, 10, 15, 8, 13}));
+  EXPECT_EQ(SubstitutionOrder(5), (std::array<int, 7>{5, 10, 15, 9, 14, 8, 13}));
+}
+
+TEST_F(Rules, DepthCandidateRefusesMenWhoMayNotComeIn) {
+  EXPECT_EQ(DepthCandidate(game, 1, Side::Home, 0), 0);  // on the floor
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 106);
+  HomeLine(6).Energy = 1400;
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 0);
+  HomeLine(7).Fouls = 3;
+  EXPECT_EQ(DepthCandidate(game, 7, Side::Home, 0), 0);  // three fouls in the first half
+  game.Half = 2;
+  EXPECT_EQ(DepthCandidate(game, 7, Side::Home, 0), 107);
+  HomeLine(7).Fouls = 4;
+  game.Clock = 301;
+  EXPECT_EQ(DepthCandidate(game, 7, Side::Home, 0), 0);
+  game.Clock = 300;
+  EXPECT_EQ(DepthCandidate(game, 7, Side::Home, 0), 107);
+  Home().Depth[8] = 999;  // not in the roster: a blank line with no energy
+  EXPECT_EQ(DepthCandidate(game, 8, Side::Home, 1), 0);
+  EXPECT_EQ(DepthCandidate(game, 8, Side::Home, 0), 999);
+}
+
+TEST_F(Rules, SubstitutionSwapsTheBenchManInAndLogsIt) {
+  game.WriteLog = true;
+  HomeLine(2).Energy = 1000;
+  SubstitutePlayer(game, 2, Side::Home, 1450);
+  EXPECT_EQ(Home().Court[2].Id, 107);
+  EXPECT_EQ(Home().Bench[2].Id, 102);
+  EXPECT_EQ(Home().IsStarter[2], 0);
+  ASSERT_EQ(game.LogCount, 1);
+  EXPECT_EQ(game.GameLogLines[0], "Home U SUB - P107 in for P102");
+  // The rested starter comes back once he is fresh again.
+  HomeLine(2).Energy = 1700;
+  RotatePlayer(game, Side::Home, 2, FloorCheck(game, SubPattern::Normal, Side::Home));
+  EXPECT_EQ(Home().Court[2].Id, 102);
+  EXPECT_EQ(Home().IsStarter[2], 1);
+}
+
+TEST_F(Rules, TheReserveQueueTurnsWhenNobodyOnTheChartIsFit) {
+  // Ten men on the chart, two reserves, and everybody tired.
+  for (int n = 11; n <= 15; ++n) Home().Depth[n] = Home().Roster[n - 10].Id;
+  BuildReserve(Home());
+  ASSERT_EQ(Home().ReserveCount, 3);
+  for (int i = 1; i <= 12; ++i) HomeLine(i).Energy = 100;
+  SubstitutePlayer(game, 3, Side::Home, 1450);
+  // The head place was empty: the slot stays empty for now.
+  EXPECT_EQ(Home().Court[3].Id, 0);
+  EXPECT_EQ(Home().Reserve[0].Id, 111);
+  EXPECT_EQ(Home().Reserve[1].Id, 112);
+  EXPECT_EQ(Home().Reserve[3].Id, 103);
+  // The next call brings the head of the queue in.
+  SubstitutePlayer(game, 3, Side::Home, 1450);
+  EXPECT_EQ(Home().Court[3].Id, 111);
+  EXPECT_EQ(Home().Reserve[0].Id, 112);
+}
+
+TEST_F(Rules, RotationTakesOutFoulTroubleAndRestsLeadersInABlowOut) {
+  HomeLine(4).Fouls = 3;
+  RotatePlayer(game, Side::Home, 4, FloorCheck(game, SubPattern::Normal, Side::Home));
+  EXPECT_EQ(Home().Court[4].Id, 109);
+
+  game.Half = 2;
+  game.Clock = 500;
+  Home().Score = 80;
+  game.Away().Score = 61;
+  RotatePlayer(game, Side::Home, 5, FloorCheck(game, SubPattern::Normal, Side::Home));
+  EXPECT_EQ(Home().Court[5].Id, 105);  // a lead of 19 keeps him in
+  game.Away().Score = 60;
+  RotatePlayer(game, Side::Home, 5, FloorCheck(game, SubPattern::Normal, Side::Home));
+  EXPECT_EQ(Home().Court[5].Id, 110);
+}
+
+TEST_F(Rules, FloorCheckLinesFollowPatternPeriodAndSide) {
+  const FloorCheckLine first = FloorCheck(game, SubPattern::More, Side::Home);
+  EXPECT_EQ(first.MinEnergy, 1500);
+  EXPECT_EQ(first.MaxFouls, 3);
+  EXPECT_EQ(first.ReturnMargin, 200);
+  EXPECT_EQ(first.RestLeaders, 0);
+  game.Half = 2;
+  game.Clock = 450;
+  EXPECT_EQ(FloorCheck(game, SubPattern::Normal, Side::Home).MaxFouls, 5);
+  EXPECT_EQ(FloorCheck(game, SubPattern::Normal, Side::Away).MaxFouls, 4);
+  EXPECT_EQ(FloorCheck(game, SubPattern::Less, Side::Away).MinEnergy, 1000);
+  EXPECT_EQ(FloorCheck(game, SubPattern::More, Side::Away).ReturnMargin, 100);
+  game.Clock = 601;
+  EXPECT_EQ(FloorCheck(game, SubPattern::Normal, Side::Home).MinEnergy, 1400);
+  game.Half = 3;
+  const FloorCheckLine overtime = FloorCheck(game, SubPattern::Less, Side::Home);
+  EXPECT_EQ(overtime.MinEnergy, 900);
+  EXPECT_EQ(overtime.RestLeaders, 1);
+}
+
+TEST_F(Rules, EnergyDrainsByTempoAndPressAndTheBenchRecovers) {
+  Home().tactics.SetTempo("Up Beat");
+  Home().tactics.SetPress("Full Court");
+  game.Away().tactics.SetTempo("Slow Down");
+  game.Away().tactics.SetPress("Half Court");
+  HomeLine(6).Energy = 1990;
+  HomeLine(7).Energy = 1500;
+  game.Clock = 990;
+  ApplyElapsedTime(game);
+  EXPECT_EQ(HomeLine(1).Energy, 2000 - 15 - 10);  // 2.5 a second
+  EXPECT_EQ(game.Away().Stats[1].Energy, 2000 - 10 - 5);
+  EXPECT_EQ(HomeLine(1).SecondsPlayed, 10);
+  EXPECT_EQ(Home().Team().SecondsPlayed, 50);
+  EXPECT_EQ(HomeLine(6).Energy, 2000);  // capped at 2000
+  EXPECT_EQ(HomeLine(7).Energy, 1525);
+  EXPECT_EQ(game.LastClock, 990);
+}
+
+TEST_F(Rules, TiredRuleByPeriodAndClock) {
+  EXPECT_TRUE(IsTired(game, 1399));
+  EXPECT_FALSE(IsTired(game, 1400));
+  game.Half = 2;
+  game.Clock = 601;
+  EXPECT_TRUE(IsTired(game, 1399));
+  game.Clock = 600;
+  EXPECT_FALSE(IsTired(game, 1100));
+  EXPECT_TRUE(IsTired(game, 1099));
+  game.Clock = 300;
+  EXPECT_FALSE(IsTired(game, 1000));
+  EXPECT_TRUE(IsTired(game, 999));
+  game.Half = 4;
+  game.Clock = 250;
+  EXPECT_TRUE(IsTired(game, 999));
+}
+
+TEST_F(Rules, The551LineSeparatesAMakeFromAMiss) {
+  game.Distance = 10;
+  ResolveShot(game, 550);
+  EXPECT_EQ(HomeLine(1).ShotAttempts, 1);
+  EXPECT_EQ(HomeLine(1).Points, 0);
+  game.BallPos = 2;
+  game.Possession = Side::Home;
+  game.PossState = 0;
+  game.Distance = 10;
+  ResolveShot(game, 551);
+  EXPECT_EQ(HomeLine(2).ShotsMade, 1);
+  EXPECT_EQ(HomeLine(2).Points, 2);
+  EXPECT_EQ(Home().Score, 2);
+  EXPECT_EQ(game.Away().Stats[2].PlusMinus, -2);
+  EXPECT_EQ(game.PossState, 2);
+}
+
+TEST_F(Rules, AnAndOneFrom20FeetScoresThreeAndOneFreeThrow) {
+  game.Distance = 20;
+  game.Fouler = 3;
+  ResolveShot(game, 700);
+  const GameStat& shooter = HomeLine(1);
+  EXPECT_EQ(shooter.ShotAttempts, 1);
+  EXPECT_EQ(shooter.ThreesMade, 1);
+  EXPECT_EQ(shooter.FreeThrowAttempts, 1);
+  EXPECT_EQ(shooter.Points, 3 + shooter.FreeThrowsMade);
+  EXPECT_EQ(game.Away().Stats[3].Fouls, 1);
+  EXPECT_EQ(game.Away().Fouls, 1);
+  EXPECT_EQ(game.Fouler, 0);
+}
+
+TEST_F(Rules, ABlockVoidsTheAndOneAndAFouledThreeGetsTwoShots) {
+  game.Distance = 8;
+  game.Fouler = 2;
+  game.Blocker = 4;
+  ResolveShot(game, 700);
+  EXPECT_EQ(HomeLine(1).ShotAttempts, 0);
+  EXPECT_EQ(HomeLine(1).FreeThrowAttempts, 2);
+  EXPECT_EQ(HomeLine(1).Points, HomeLine(1).FreeThrowsMade);
+
+  game.Possession = Side::Home;
+  game.BallPos = 2;
+  game.PossState = 0;
+  game.Blocker = 0;
+  game.Fouler = 1;
+  game.Distance = 20;
+  ResolveShot(game, 640);
+  EXPECT_EQ(HomeLine(2).ShotAttempts, 0);
+  EXPECT_EQ(HomeLine(2).ThreeAttempts, 0);
+  EXPECT_EQ(HomeLine(2).FreeThrowAttempts, 2);
+}
+
+TEST_F(Rules, ABlockWithoutAFoulCreditsTheBlocker) {
+  game.Distance = 6;
+  game.Blocker = 3;
+  ResolveShot(game, 5);
+  EXPECT_EQ(HomeLine(1).ShotAttempts, 1);
+  EXPECT_EQ(HomeLine(1).Points, 0);
+  EXPECT_EQ(game.Away().Stats[3].ShotBlocks, 1);
+  EXPECT_EQ(game.Away().Team().ShotBlocks, 1);
+}
+
+TEST_F(Rules, AddStatKeepsPlusMinusAndTeamFouls) {
+  AddStat(game, Stat::ShotMade, SideWordRole::Offense, 1);
+  AddStat(game, Stat::ThreeMade, SideWordRole::Offense, 1);
+  for (int i = 0; i < 3; ++i) AddStat(game, Stat::AllowPoint, SideWordRole::Defense, 1);
+  EXPECT_EQ(HomeLine(1).Points, 3);
+  EXPECT_EQ(HomeLine(1).PlusMinus, 3);
+  EXPECT_EQ(Home().Team().Points, 3);
+  EXPECT_EQ(Home().Team().PlusMinus, 0);
+  EXPECT_EQ(game.Away().Stats[1].PlusMinus, -3);
+  AddStat(game, Stat::Foul, SideWordRole::Offense, 1);  // a charge
+  EXPECT_EQ(Home().Fouls, 1);
+  EXPECT_EQ(game.Away().Fouls, 0);
+}
+
+TEST(PlayTexts, BandEdgesDifferFromVariantToVariant) {
+  EXPECT_STREQ(PlayTableText(PlayVariant::Hits, 20, 12), "cashes in from downtown (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Hits, 19, 1), "goes over the defender for a quick 2 (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Hits, 10, 7), "floats in a soft jumper (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Hits, 5, 4), "shows some flair with a two-handed jam! (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::HitsFoul, 9, 10),
+               "double pumps and banks it in from the block! (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::HitsFoul, 10, 3),
+               "still hits the 12-footer while falling down! (");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Miss, 10, 5), "misses the dunk! Oh, my!");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Miss, 11, 9), "is a little short on the fade away");
+  EXPECT_STREQ(PlayTableText(PlayVariant::Pass2, 15, 7), " throws it to a well-guarded");
+  EXPECT_STREQ(PlayTableText(PlayVariant::NonShootFoul, 15, 8),
+               "needs his wallet back as he was Mugged By ");
+}
+
+TEST(PassReceivers, EachBandHasItsOwnSlots) {
+  EXPECT_EQ(PassReceiver(21, 66), 1);
+  EXPECT_EQ(PassReceiver(20, 66), 2);
+  EXPECT_EQ(PassReceiver(15, 76), 3);
+  EXPECT_EQ(PassReceiver(10, 31), 5);
+  EXPECT_EQ(PassReceiver(6, 66), 5);
+  EXPECT_EQ(PassReceiver(1, 70), 4);
+  EXPECT_EQ(PassReceiver(1, 71), 5);
+}
+
+TEST(InjuryLength, TheTrainerShortensOrLengthens) {
+  EXPECT_EQ(InjuryWeeks(4, 25), 6);
+  EXPECT_EQ(InjuryWeeks(4, 26), 5);
+  EXPECT_EQ(InjuryWeeks(4, 51), 3);
+  EXPECT_EQ(InjuryWeeks(4, 70), 3);
+  EXPECT_EQ(InjuryWeeks(4, 71), 2);
+  EXPECT_EQ(InjuryWeeks(2, 90), 1);
+}
+
+TEST_F(Rules, DribbleDrivesGainAFootAStepAndPressureForcesMistakes) {
+  auto mistakes = [&](const char* press) {
+    game.Away().tactics.SetPress(press);
+    int count = 0;
+    for (int i = 0; i < 4000; ++i) {
+      game.Distance = 35;
+      game.Footwork = 0;
+      game.Away().Fouls = 0;
+      game.Clock = 1000;
+      game.ShotClock = 35;
+      const int d = DribbleMove(game, Home().Court[1], game.Away().Court[1]);
+      if (d > 0) {
+        EXPECT_LE(35 - d, 49);
+        EXPECT_EQ(game.Footwork, 35 - d);
+      } else {
+        ++count;
+      }
+    }
+    return count;
+  };
+  const int none = mistakes("None");
+  const int full = mistakes("Full Court");
+  EXPECT_GT(full, none);
+}
+
+}  // namespace
+}  // namespace courtmere::testing
