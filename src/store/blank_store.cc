@@ -17,6 +17,11 @@ std::vector<std::string> SeedTables() {
   return tables;
 }
 
+// InjuryList: a row with WeeksOut 1 is a day-to-day knock. The injury roll
+// gives it no weeks, so TimeInjured stays 0: the player finishes the game, but
+// Health names the injury, which keeps him off depth charts until the week's
+// healing pass (that pass always clears a TimeInjured of 0, whatever the
+// trainer's roll). It costs him the rest of the current week.
 void BuildBlankStore(const std::filesystem::path& file) {
   std::filesystem::path temp = file;
   temp += ".new";
