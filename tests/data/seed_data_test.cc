@@ -1,9 +1,8 @@
 // The seed tables of the blank store (data/seed/*.csv), checked against every
-// constraint that the Parts put on them: Parts 1.1 and 1.2 (ids, regions),
-// 1.4 (the Big 12 upgrade statements), 2.5 (InjuryList), 3.2 (name pools and
-// high schools), 4.1, 4.4 and 4.5 (conference sizes and the limits of the
-// dynasty's tables), 4.6 (automatic bids, Cities), 5.1 (schedule types,
-// divisions, SchedGroup), 5.2 (challenges), 7.1 to 7.3 (Area), 9.5 (NBASetup).
+// constraint the program puts on them: ids and regions, the Big 12 upgrade
+// statements, InjuryList, name pools and high schools, conference sizes and
+// the limits of the dynasty's tables, automatic bids and Cities, schedule
+// types, divisions and SchedGroup, challenges, Area, NBASetup.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -27,11 +26,11 @@ const std::set<std::string> kStates = {
     "MT", "NE", "NV", "NH", "NJ", "NM", "NY", "NC", "ND", "OH", "OK", "OR", "PA",
     "RI", "SC", "SD", "TN", "TX", "UT", "VT", "VA", "WA", "WV", "WI", "WY"};
 
-// The schedule types of Part 5.1: the number of schools and the divisions each uses.
+// The conference schedule types: the number of schools and the divisions each uses.
 struct SchedTypeRule {
   int teams;
   std::set<std::string> divisions;  // {"None"} for a type without divisions
-  bool pairsBySchedGroup;           // slots are filled "Order by SchedGroup ..." (Part 5.1)
+  bool pairsBySchedGroup;           // slots are filled "Order by SchedGroup ..."
 };
 const std::map<std::string, SchedTypeRule> kSchedTypes = {
     {"8", {8, {"None"}, true}},
@@ -123,7 +122,7 @@ TEST_F(SeedDataTest, EverySeedTableIsLoaded) {
   }
 }
 
-// Part 1.2, 4.1: six fixed conferences, Id 1 to 6; the low ones above 6.
+// six fixed conferences, Id 1 to 6; the low ones above 6.
 TEST_F(SeedDataTest, LeagueSetupHasTheSixFixedConferencesThenTheLowOnes) {
   ExpectIdsFromOne(S(), "LeagueSetup", "Id");
   EXPECT_EQ(Texts("SELECT Conference FROM LeagueSetup WHERE Id < 7 ORDER BY Id"),
@@ -133,13 +132,13 @@ TEST_F(SeedDataTest, LeagueSetupHasTheSixFixedConferencesThenTheLowOnes) {
   EXPECT_EQ(Int("SELECT COUNT(DISTINCT Conference) FROM LeagueSetup"), S().RowCount("LeagueSetup"));
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LeagueSetup WHERE Conference IS NULL OR Conference = ''"), 0);
   // Conference names are compared in quotes by the program's statements and
-  // stand beside "F" and "POY" in award types (Part 6.4).
+  // stand beside "F" and "POY" in award types.
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LeagueSetup WHERE Conference IN ('National', 'week', "
                 "'NationalPOY', 'NationalF', 'FirstAA', 'SecondAA', 'ThirdAA')"),
             0);
 }
 
-// Part 5.1: every SchedType is a known template and matches its conference's size.
+// every SchedType is a known template and matches its conference's size.
 TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSize) {
   for (const auto& [conference, idType] : Conferences()) {
     const auto& [id, type] = idType;
@@ -147,8 +146,8 @@ TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSize) {
     const int64_t size = *S().ScalarInt(
         "SELECT COUNT(*) FROM " + SchoolTable(id) + " WHERE Conference = ?", conference);
     EXPECT_EQ(size, kSchedTypes.at(type).teams) << conference << " (" << type << ")";
-    EXPECT_GE(size, 8) << conference;   // the conference tournament takes 8 to 14 (Part 4.5)
-    EXPECT_LE(size, 14) << conference;  // the rating index's 14 slots (Part 4.4)
+    EXPECT_GE(size, 8) << conference;   // the conference tournament takes 8 to 14
+    EXPECT_LE(size, 14) << conference;  // the rating index's 14 slots
   }
   // Fixed conferences' schools stand in TeamSetup, the others in LowLeagueSetup.
   EXPECT_EQ(Int("SELECT COUNT(*) FROM TeamSetup WHERE Conference NOT IN "
@@ -159,7 +158,7 @@ TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSize) {
             0);
 }
 
-// Part 5.1: a school's Division is one its type uses, and a two-division type
+// a school's Division is one its type uses, and a two-division type
 // splits its schools evenly (the division tables have 6 or 7 slots).
 TEST_F(SeedDataTest, EveryDivisionIsOneItsSchedTypeUses) {
   for (const auto& [conference, idType] : Conferences()) {
@@ -183,7 +182,7 @@ TEST_F(SeedDataTest, EveryDivisionIsOneItsSchedTypeUses) {
   }
 }
 
-// Part 5.1: teams of a SchedGroup come next to each other in the slot order.
+// teams of a SchedGroup come next to each other in the slot order.
 // The types filled "Order by SchedGroup" pair their slots (1, 2), (3, 4), ...
 // as travel partners, so each group there holds exactly two schools of its
 // division; every order of the table must keep the pairs on those slots.
@@ -228,15 +227,15 @@ TEST_F(SeedDataTest, SchedGroupsPairTheSlotsOfTheirTemplates) {
   }
 }
 
-// Parts 4.1, 4.4, 4.6: the limits hold with any three low conferences chosen.
+// the limits hold with any three low conferences chosen.
 TEST_F(SeedDataTest, TheLimitsHoldWhateverThreeConferencesAreChosen) {
   const int64_t fixedSchools = S().RowCount("TeamSetup");
   const std::vector<int> low = LowSizesDescending();
   ASSERT_GE(low.size(), 3u);
   const int64_t largestThree = low[0] + low[1] + low[2];
   const int64_t firstDivisionMost = fixedSchools + largestThree;
-  EXPECT_LE(firstDivisionMost, 120) << "Team and the in-memory lists hold 120 (Part 4.1)";
-  EXPECT_LE(low[0], 14) << "at most 14 schools a conference (Part 4.4)";
+  EXPECT_LE(firstDivisionMost, 120) << "Team and the in-memory lists hold 120";
+  EXPECT_LE(low[0], 14) << "at most 14 schools a conference";
   // The background field draws up to 110 schools from the conferences left over.
   EXPECT_GE(S().RowCount("LowLeagueSetup") - largestThree, 110);
   // The rating index holds 50 conferences and 250 teams: the dynasty's Team and
@@ -245,12 +244,12 @@ TEST_F(SeedDataTest, TheLimitsHoldWhateverThreeConferencesAreChosen) {
   EXPECT_LE(firstDivisionMost + 110, 250);
   // The NCT field is 33 at-large teams and one champion of each conference: the
   // nine leagues' tournament winners and one background team of every other low
-  // conference (Parts 4.1, 4.6), 31 in all to make 64.
+  // conference, 31 in all to make 64.
   const int64_t lowConferences = Int("SELECT COUNT(*) FROM LeagueSetup WHERE Id > 6");
   EXPECT_EQ(9 + (lowConferences - 3), 31);
 }
 
-// Parts 1.1, 1.2, 4.1: the school rows as the program and its screens read them.
+// the school rows as the program and its screens read them.
 TEST_F(SeedDataTest, SchoolRowsAreWellFormed) {
   std::set<std::string> names;
   for (Rows rows = S().Query(kAllSchools); rows.Next();) {
@@ -260,7 +259,7 @@ TEST_F(SeedDataTest, SchoolRowsAreWellFormed) {
     ASSERT_GE(name.size(), 3u);
     EXPECT_EQ(name, name.substr(name.find_first_not_of(' '), name.find_last_not_of(' ') + 1));
     // The preseason bracket reads a side's first and last character as a seed
-    // and a "-" in second place as an open pairing (Part 4.8).
+    // and a "-" in second place as an open pairing.
     EXPECT_FALSE(isdigit(static_cast<unsigned char>(name.front())));
     EXPECT_FALSE(isdigit(static_cast<unsigned char>(name.back())));
     EXPECT_NE(name[1], '-');
@@ -288,7 +287,7 @@ TEST_F(SeedDataTest, SchoolRowsAreWellFormed) {
                   " OR typeof(Prestige) <> 'integer'"),
               0);
   }
-  // Records.Type holds a SchoolName, a Conference or "National" (Part 1.2).
+  // Records.Type holds a SchoolName, a Conference or "National".
   EXPECT_EQ(Int(std::string("SELECT COUNT(*) FROM (") + kAllSchools +
                 ") WHERE SchoolName IN (SELECT Conference FROM LeagueSetup) "
                 "OR SchoolName = 'National'"),
@@ -298,7 +297,7 @@ TEST_F(SeedDataTest, SchoolRowsAreWellFormed) {
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LowLeagueSetup WHERE SchoolName = 'Saint Mary''s'"), 1);
 }
 
-// Part 4.1: the prestige bands; every band of the selection screens has schools,
+// the prestige bands; every band of the selection screens has schools,
 // and the fixed conferences stand above the low ones.
 TEST_F(SeedDataTest, PrestigeSpansTheBands) {
   const std::vector<std::pair<int, int>> bands = {{75, 100}, {65, 74}, {60, 64}, {50, 59},
@@ -313,7 +312,7 @@ TEST_F(SeedDataTest, PrestigeSpansTheBands) {
             *S().ScalarDouble("SELECT AVG(Prestige) FROM LowLeagueSetup") + 15);
 }
 
-// Part 1.4: the upgrade statements that run at every load and File > New
+// the upgrade statements that run at every load and File > New
 // leave each Big 12 school in its division ('OK' ends in the South).
 TEST_F(SeedDataTest, TheBig12UpgradeLeavesEverySchoolInItsDivision) {
   const std::set<std::string> north = {"NEMO", "KS", "CO", "IA"};
@@ -351,7 +350,7 @@ TEST_F(SeedDataTest, TheBig12UpgradeLeavesEverySchoolInItsDivision) {
   EXPECT_EQ(*S().ScalarText("SELECT SchedType FROM LeagueSetup WHERE Id = 4"), "12C");
 }
 
-// Parts 3.2, 7.1 to 7.3: the regional high schools, and every school's Area
+// The regional high schools, and every school's Area
 // among the high schools of its region so that the home-area rules can fire.
 TEST_F(SeedDataTest, HighSchoolsCoverEveryRegionAndEverySchoolsArea) {
   for (const std::string& region : kRegions) {
@@ -364,7 +363,7 @@ TEST_F(SeedDataTest, HighSchoolsCoverEveryRegionAndEverySchoolsArea) {
   EXPECT_EQ(Int("SELECT COUNT(*) FROM HighSchool WHERE HighSchool IS NULL OR HighSchool = '' "
                 "OR HomeTown IS NULL OR HomeTown = '' OR Area IS NULL OR Area = ''"),
             0);
-  // HomeTown & "," & State: the last two characters are the state (Parts 7.1, 9.5).
+  // HomeTown & "," & State: the last two characters are the state.
   for (const std::string& state : Texts("SELECT DISTINCT State FROM HighSchool")) {
     EXPECT_TRUE(kStates.count(state)) << state;
   }
@@ -387,7 +386,7 @@ TEST_F(SeedDataTest, HighSchoolsCoverEveryRegionAndEverySchoolsArea) {
       0);
 }
 
-// Parts 1.2, 3.2, 3.4: the name pools, drawn by Id with no gap.
+// the name pools, drawn by Id with no gap.
 TEST_F(SeedDataTest, NamePoolsRunFromOneWithoutGaps) {
   ExpectIdsFromOne(S(), "FName", "Id");
   ExpectIdsFromOne(S(), "LName", "Id");
@@ -405,12 +404,12 @@ TEST_F(SeedDataTest, NamePoolsRunFromOneWithoutGaps) {
       }
     }
   }
-  // Every drawable Id finds a row (Part 3.2 draws 1 to rows - 1).
+  // Every drawable Id finds a row (player creation draws 1 to rows - 1).
   EXPECT_EQ(S().FirstName(1), "Michael");
   EXPECT_FALSE(S().LastName(static_cast<int>(S().RowCount("LName")) - 1).empty());
 }
 
-// Parts 1.1, 2.5: 60 injuries looked up by Roll(60).
+// 60 injuries looked up by Roll(60).
 TEST_F(SeedDataTest, InjuryListHoldsSixtyInjuries) {
   EXPECT_EQ(S().RowCount("InjuryList"), 60);
   ExpectIdsFromOne(S(), "InjuryList", "InjuryID");
@@ -427,14 +426,14 @@ TEST_F(SeedDataTest, InjuryListHoldsSixtyInjuries) {
   EXPECT_GE(Int("SELECT COUNT(*) FROM InjuryList WHERE WeeksOut >= 20"), 1);
 }
 
-// Part 9.5: the 29 professional teams of the draft order.
+// the 29 professional teams of the draft order.
 TEST_F(SeedDataTest, NBASetupHoldsTwentyNineTeams) {
   EXPECT_EQ(S().RowCount("NBASetup"), 29);
   ExpectIdsFromOne(S(), "NBASetup", "id");
   EXPECT_EQ(Int("SELECT COUNT(DISTINCT Team) FROM NBASetup WHERE Team <> ''"), 29);
 }
 
-// Parts 1.2, 4.6: three sites a region a year, and a Final Four site left over.
+// three sites a region a year, and a Final Four site left over.
 TEST_F(SeedDataTest, CitiesGiveEveryRegionItsSitesAndAFinalFour) {
   ExpectIdsFromOne(S(), "Cities", "Id");
   for (const std::string& region : kRegions) {
@@ -456,8 +455,8 @@ TEST_F(SeedDataTest, CitiesGiveEveryRegionItsSitesAndAFinalFour) {
             0);
 }
 
-// Part 5.2: a challenge pairs two fixed conferences (the chosen ones are
-// inserted without Challenge, Part 4.1) once, on a day the calendar plays.
+// a challenge pairs two fixed conferences (the chosen ones are
+// inserted without Challenge) once, on a day the calendar plays.
 TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LeagueSetup WHERE Id > 6 AND Challenge <> 0"), 0);
   int challenges = 0;
@@ -474,7 +473,7 @@ TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
     EXPECT_NE(partner, id);
     EXPECT_NE(*S().ScalarInt("SELECT Challenge FROM LeagueSetup WHERE Id = ?", partner), id)
         << "a pair is named once, or its games are made twice";
-    // Part 6.1: week 1 plays Thursday to Sunday; weeks 2 to 4 and 6 to 15
+    // week 1 plays Thursday to Sunday; weeks 2 to 4 and 6 to 15
     // Thursday and Saturday; week 5 plays nothing.
     const bool played = (week == 1 && (day == "Thursday" || day == "Friday" || day == "Saturday" ||
                                        day == "Sunday")) ||
