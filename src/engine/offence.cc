@@ -3,6 +3,7 @@
 #include "engine/add_stat.h"
 #include "engine/fatigue.h"
 #include "engine/play_log.h"
+#include "engine/roll.h"
 #include "engine/shooting.h"
 #include "platform/numeric.h"
 
@@ -48,9 +49,9 @@ bool StealTryBeat(PressKind press, int beat) {
 
 void InboundBall(Game& game) {
   Rng& rng = *game.rng;
-  const int p = rng.Roll(100);
+  const int p = RollDie(rng, 100);
   const int receiver = p >= 81 ? 2 : (p >= 76 ? 3 : 1);
-  const int q = rng.Roll(100);
+  const int q = RollDie(rng, 100);
   const int inbounder = q <= 40 ? 4 : 5;
   if (game.Clock > 120) {
     switch (game.Offense().tactics.TempoRule()) {
@@ -105,7 +106,7 @@ void BringBallUp(Game& game) {
   if (game.Clock < 15 && game.TransitionEdge >= 0) seconds = Int(rng.Rnd() * 3 + 1);
   TakeSeconds(game, seconds);
 
-  const int p = rng.Roll(100);
+  const int p = RollDie(rng, 100);
   if (v >= -27) {
     game.BallPos = p >= 31 ? 1 : (p >= 13 ? 2 : (p >= 7 ? 3 : (p >= 4 ? 4 : 5)));
     if (game.BallPos != prev) {
@@ -173,7 +174,7 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
         game.Distance = 0;
       }
     } else if (StealTryBeat(press, beat)) {
-      if (rng.Roll(50) + defend > 170) game.Distance = -1;
+      if (RollDie(rng, 50) + defend > 170) game.Distance = -1;
     } else if (move > 155 || beat > 168) {
       if ((move > 400 || (move > 50 && beat - defend > 188)) && game.Distance < 20) {
         game.Fouler = PickFouler(game, dist, defSide);
@@ -210,7 +211,7 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
 void RateOpenness(Game& game, const GamePlayer& o, const GamePlayer& d) {
   Rng& rng = *game.rng;
   rng.Reseed();
-  const int n = rng.Roll(35);
+  const int n = RollDie(rng, 35);
   const int oEnergy = game.LineOf(game.Offense(), o).Energy;
   const int dEnergy = game.LineOf(game.Defense(), d).Energy;
   const double coachEdge = (game.Offense().OffCoach - game.Defense().DefCoach) / 2.0;
@@ -220,8 +221,8 @@ void RateOpenness(Game& game, const GamePlayer& o, const GamePlayer& d) {
   game.Openness = 0;
   const double sum = o.Passing + o.Handling + o.OffAware - r * 1.1 + 2 * game.Footwork +
                      game.TransitionEdge + n + coachEdge;
-  const int oRoll = rng.Roll(20);
-  const int dRoll = rng.Roll(20);
+  const int oRoll = RollDie(rng, 20);
+  const int dRoll = RollDie(rng, 20);
   game.Openness = CInt(sum - oRoll * oTired + dRoll * dTired);
 }
 
@@ -289,7 +290,7 @@ int PassBall(Game& game, int distance) {
   if (r < 1) return r;
   int slot;
   do {
-    slot = PassReceiver(r, rng.Roll(100));
+    slot = PassReceiver(r, RollDie(rng, 100));
   } while (slot == game.BallPos);
 
   int seconds;
@@ -317,7 +318,7 @@ int PickStealer(Game& game) {
   int best = 0;
   int winner = 0;
   for (int slot = 1; slot <= 5; ++slot) {
-    const int v = game.rng->Roll(120) + game.Defense().Court[slot].Steal;
+    const int v = RollDie(*game.rng, 120) + game.Defense().Court[slot].Steal;
     if (v > best) {
       best = v;
       winner = slot;

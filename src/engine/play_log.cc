@@ -15,8 +15,12 @@ namespace {
 constexpr size_t kLogWidth = 96;
 
 void AppendTwoDigits(std::string& out, int value) {
-  if (value < 10 && value >= 0) out += '0';
-  out += std::to_string(value);
+  if (value >= 0 && value < 100) {
+    out += static_cast<char>('0' + value / 10);
+    out += static_cast<char>('0' + value % 10);
+  } else {
+    out += std::to_string(value);
+  }
 }
 
 std::string Upper(std::string_view text) {
@@ -32,15 +36,19 @@ Side LineSide(const Game& game, PlayKind kind) {
                                                                : OtherSide(game.Possession);
 }
 
+void AppendBody(std::string& out, PlayKind kind, std::string_view text, std::string_view name) {
+  if (kind == PlayKind::Pass) {
+    out.append(text).append(" ").append(name);
+  } else if (kind == PlayKind::Foul) {
+    out.append(text);
+  } else {
+    out.append(name).append(" ").append(text);
+  }
+}
+
 std::string Body(PlayKind kind, std::string_view text, std::string_view name) {
   std::string body;
-  if (kind == PlayKind::Pass) {
-    body.append(text).append(" ").append(name);
-  } else if (kind == PlayKind::Foul) {
-    body.append(text);
-  } else {
-    body.append(name).append(" ").append(text);
-  }
+  AppendBody(body, kind, text, name);
   return body;
 }
 
@@ -74,7 +82,14 @@ void FillEmptySlots(Game& game) {
 }  // namespace
 
 std::string FormatLogLine(const Game& game, std::string_view body) {
-  std::string line = std::to_string(game.Half);
+  return FormatLogLine(game, PlayKind::Foul, body, {});
+}
+
+std::string FormatLogLine(const Game& game, PlayKind kind, std::string_view text,
+                          std::string_view name) {
+  std::string line;
+  line.reserve(kLogWidth + 16);
+  line += std::to_string(game.Half);
   line += " - ";
   AppendTwoDigits(line, game.Clock / 60);
   line += ':';
@@ -82,7 +97,7 @@ std::string FormatLogLine(const Game& game, std::string_view body) {
   line += " - ";
   AppendTwoDigits(line, game.ShotClock);
   line += ": ";
-  line.append(body);
+  AppendBody(line, kind, text, name);
   // A line longer than the width keeps its text and is not cut.
   if (line.size() < kLogWidth) line.append(kLogWidth - line.size(), ' ');
   line += std::to_string(game.Home().Score);
@@ -96,18 +111,18 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
   game.Clock = std::max(game.Clock, 0);
   game.ShotClock = std::max(game.ShotClock, 0);
 
-  const bool wantsText = game.WantsText();
-  std::string name;
-  const Side side = LineSide(game, kind);
-  if (wantsText) name = game.SideOf(side).Court[game.BallPos].AbbrName;
-  if (game.Live()) ShowOnScreen(game, text, kind, name, side);
-
-  if (kind != PlayKind::Foul) FillEmptySlots(game);
-
-  if (game.WriteLog && kind != PlayKind::Subs) {
-    game.GameLogLines.push_back(FormatLogLine(game, Body(kind, text, name)));
-    ++game.LogCount;
+  if (game.WantsText()) {
+    const Side side = LineSide(game, kind);
+    const std::string& name = game.SideOf(side).Court[game.BallPos].AbbrName;
+    // The log line is made first: neither the live screen nor the fill
+    // changes the clock, the score or the man it names.
+    if (game.WriteLog && kind != PlayKind::Subs) {
+      game.GameLogLines.push_back(FormatLogLine(game, kind, text, name));
+      ++game.LogCount;
+    }
+    if (game.Live()) ShowOnScreen(game, text, kind, name, side);
   }
+  if (kind != PlayKind::Foul) FillEmptySlots(game);
 }
 
 void ResetPeriodLines(Game& game) {

@@ -29,6 +29,9 @@ void PostPlayWith(Game& game, PlayKind kind, MakeText&& makeText) {
 // The log line of a play: half, clock, shot clock, the body, padded with
 // blanks to 96 characters, then the score.
 std::string FormatLogLine(const Game& game, std::string_view body);
+// The same for a line of `kind` with its text and the name of its man.
+std::string FormatLogLine(const Game& game, PlayKind kind, std::string_view text,
+                          std::string_view name);
 
 // The game log file: created with its heading at the start of a game, and
 // given one block per period that has lines.
