@@ -53,7 +53,7 @@ class EngineWorld {
       state.PauseTiming();
       // The injured heal between games, so that the workload stays the same.
       session_.Db().Exec(
-          "UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE TimeInjured > 0");
+          "UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE Health <> 'Good'");
       state.ResumeTiming();
     }
     tx.Commit();

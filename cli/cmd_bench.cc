@@ -57,15 +57,6 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-bool AnyoneHurt(const Game& game) {
-  for (const GameSide& side : game.sides) {
-    for (int i = 1; i <= side.RosterCount; ++i) {
-      if (side.Roster[i].TimeInjured > 0) return true;
-    }
-  }
-  return false;
-}
-
 void RunBench(CliContext& context, int games) {
   ScratchFolder folder;
   ScriptedUi ui;
@@ -98,10 +89,7 @@ void RunBench(CliContext& context, int games) {
         fmt::format("{} {} {} {}", pair.home, game.Home().Score, pair.away, game.Away().Score));
     for (const std::string& line : FormatBoxScore(game)) signature.Add(line);
     // The injured heal between games, so that the workload stays the same.
-    if (AnyoneHurt(game)) {
-      store.Exec("UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE Team IN (?, ?)",
-                 pair.home, pair.away);
-    }
+    store.Exec("UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE Health <> 'Good'");
   }
   const double seconds =
       std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();

@@ -34,9 +34,10 @@ bool InjurePlayer(Game& game, Side side, int slot, bool background) {
   const int weeksOut = rows.Int(1);
 
   man.Health = injury;
-  // Design decision: an injury of one week or less keeps its own length,
-  // so a one-week injury keeps him out of the next week's games.
-  int weeks = weeksOut;
+  // A row of one week or less is a day-to-day knock: no weeks out, only the
+  // injury's name in Health, which keeps him off the depth charts until the
+  // week's healing.
+  int weeks = 0;
   if (weeksOut > 1) weeks = InjuryWeeks(weeksOut, Int(team.Trainer * game.rng->Rnd() + 1));
   man.TimeInjured = weeks;
   for (int i = 1; i <= team.RosterCount; ++i) {
