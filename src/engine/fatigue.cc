@@ -33,9 +33,7 @@ void RecoverBench(GameSide& side, int elapsed) {
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
     if (man.Id == 0 || side.OnCourt(man.Id)) continue;
-    GameStat* line = man.StatIndex > 0 && side.Stats[man.StatIndex].Id == man.Id
-                         ? &side.Stats[man.StatIndex]
-                         : side.FindStat(man.Id);
+    GameStat* line = side.StatOf(man);
     if (line == nullptr) continue;
     if (line->Energy < man.Endurance && line->Energy < kMaxRecoveredEnergy) {
       line->Energy = std::min(CInt(line->Energy + 2.5 * elapsed), kMaxRecoveredEnergy);

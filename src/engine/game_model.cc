@@ -78,31 +78,12 @@ void Tactics::SetPress(std::string text) {
   }
 }
 
-GameStat* GameSide::FindStat(int id) {
-  if (id == 0) return nullptr;
-  for (int i = 1; i <= kTeamLine; ++i) {
-    if (Stats[i].Id == id) return &Stats[i];
-  }
-  return nullptr;
-}
-
-const GameStat* GameSide::FindStat(int id) const {
-  return const_cast<GameSide*>(this)->FindStat(id);
-}
-
 const GamePlayer* GameSide::FindRoster(int id) const {
   if (id == 0) return nullptr;
   for (int i = 1; i <= RosterCount; ++i) {
     if (Roster[i].Id == id) return &Roster[i];
   }
   return nullptr;
-}
-
-bool GameSide::OnCourt(int id) const {
-  for (int slot = 1; slot <= 5; ++slot) {
-    if (Court[slot].Id == id) return true;
-  }
-  return false;
 }
 
 void GameSide::ClearPeople() {
@@ -120,12 +101,7 @@ void GameSide::ClearPeople() {
 Game::Game(Session& s, LiveScreen* liveScreen)
     : session(&s), rng(&s.rng), screen(liveScreen), CurrWeek(s.config.CurrWeek) {}
 
-GameStat& Game::LineOf(GameSide& side, const GamePlayer& man) {
-  if (man.StatIndex > 0 && side.Stats[man.StatIndex].Id == man.Id && man.Id != 0) {
-    return side.Stats[man.StatIndex];
-  }
-  GameStat* line = side.FindStat(man.Id);
-  if (line != nullptr) return *line;
+GameStat& Game::ScratchLine() {
   Scratch = GameStat{};
   return Scratch;
 }

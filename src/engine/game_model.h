@@ -181,13 +181,41 @@ struct GameSide {
   GameStat& Team() { return Stats[kTeamLine]; }
   const GameStat& Team() const { return Stats[kTeamLine]; }
 
-  // The statistics line whose Id is `id`, among entries 1 to 13; null when
-  // none matches. Id 0 never matches: a blank record has no line.
-  GameStat* FindStat(int id);
-  const GameStat* FindStat(int id) const;
+  // The index (1 to 13) of the statistics line whose Id is `id`; 0 when none
+  // matches. Id 0 never matches: a blank record has no line.
+  int FindStatIndex(int id) const {
+    if (id == 0) return 0;
+    for (int i = 1; i <= kTeamLine; ++i) {
+      if (Stats[i].Id == id) return i;
+    }
+    return 0;
+  }
+  // The statistics line whose Id is `id`, or null.
+  GameStat* FindStat(int id) {
+    const int i = FindStatIndex(id);
+    return i == 0 ? nullptr : &Stats[i];
+  }
+  const GameStat* FindStat(int id) const {
+    const int i = FindStatIndex(id);
+    return i == 0 ? nullptr : &Stats[i];
+  }
+  // The line of a record: through its StatIndex when that still points at
+  // his line, by the search otherwise. The same line FindStat(man.Id) finds.
+  GameStat* StatOf(const GamePlayer& man) {
+    if (man.Id != 0 && man.StatIndex > 0 && Stats[man.StatIndex].Id == man.Id) {
+      return &Stats[man.StatIndex];
+    }
+    return FindStat(man.Id);
+  }
+  const GameStat* StatOf(const GamePlayer& man) const {
+    return const_cast<GameSide*>(this)->StatOf(man);
+  }
   // The roster record with that Id, or null.
   const GamePlayer* FindRoster(int id) const;
-  bool OnCourt(int id) const;
+  bool OnCourt(int id) const {
+    return Court[1].Id == id || Court[2].Id == id || Court[3].Id == id || Court[4].Id == id ||
+           Court[5].Id == id;
+  }
 
   // Empties rosters, lines, floor, bench, reserve and depth chart.
   void ClearPeople();
@@ -302,7 +330,12 @@ struct Game {
 
   // The statistics line of a man on the floor: his own, or a scratch line
   // when the slot holds a blank record.
-  GameStat& LineOf(GameSide& side, const GamePlayer& man);
+  GameStat& LineOf(GameSide& side, const GamePlayer& man) {
+    GameStat* line = side.StatOf(man);
+    return line != nullptr ? *line : ScratchLine();
+  }
+  // Clears the scratch line and gives it.
+  GameStat& ScratchLine();
 
   // True when someone will read the text of the play lines: a game log, or
   // a live screen that is being watched.

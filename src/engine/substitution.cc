@@ -54,7 +54,7 @@ void RemoveMenWhoMustLeave(Game& game) {
     for (Side side : {Side::Home, Side::Away}) {
       GameSide& team = game.SideOf(side);
       GamePlayer& man = team.Court[slot];
-      const GameStat* line = team.FindStat(man.Id);
+      const GameStat* line = team.StatOf(man);
       const bool fouledOut = line != nullptr && line->Fouls >= kFouledOut;
       if (!fouledOut && man.TimeInjured <= 1) continue;
       PostPlayWith(game, PlayKind::Foul, [&] {
@@ -99,10 +99,14 @@ int DepthCandidate(const Game& game, int entry, Side side, int minEnergy) {
   const int id = team.Depth[entry];
   if (id == 0 || team.OnCourt(id)) return 0;
   // A chart Id who is not in the roster has a blank line: no energy, no fouls.
-  const GameStat* line = team.FindStat(id);
+  const int index = team.FindStatIndex(id);
+  const GameStat* line = index != 0 ? &team.Stats[index] : nullptr;
   const int energy = line != nullptr ? line->Energy : 0;
   const int fouls = line != nullptr ? line->Fouls : 0;
-  const GamePlayer* record = team.FindRoster(id);
+  // A roster record's line mostly stands at his own index.
+  const GamePlayer* record = index != 0 && index <= team.RosterCount && team.Roster[index].Id == id
+                                 ? &team.Roster[index]
+                                 : team.FindRoster(id);
   const int timeInjured = record != nullptr ? record->TimeInjured : 0;
   if (energy < minEnergy) return 0;
   if (fouls >= kFouledOut) return 0;
@@ -190,7 +194,7 @@ void CheckSubs(Game& game) {
     for (Side side : {Side::Home, Side::Away}) {
       if (UserCoached(game, side)) continue;
       GameSide& team = game.SideOf(side);
-      if (team.Court[slot].Id == 0 || team.FindStat(team.Court[slot].Id) == nullptr) {
+      if (team.Court[slot].Id == 0 || team.StatOf(team.Court[slot]) == nullptr) {
         SubstitutePlayer(game, slot, side, minEnergy);
       }
     }

@@ -31,7 +31,14 @@ class Rng {
   // round(Rnd * m + a), ties to even.
   int R(double m, double a);
   // Mixes fresh entropy (the clock, or a counter in fixed mode) into the state.
-  void Reseed();
+  // Inline: the possession loop reseeds before most of its draws.
+  void Reseed() {
+    uint64_t x = ++reseeds_ ^ (fixed_ ? 0 : ClockTicks());
+    // Every word takes fresh bits: the very next output reads s_[1].
+    for (auto& word : s_) word ^= SplitMix(x);
+    // xoshiro must never hold an all-zero state.
+    if ((s_[0] | s_[1] | s_[2] | s_[3]) == 0) s_[0] = 1;
+  }
 
   bool Fixed() const { return fixed_; }
 
@@ -50,6 +57,13 @@ class Rng {
 
  private:
   static uint64_t Rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
+  static uint64_t SplitMix(uint64_t& x) {
+    uint64_t z = (x += 0x9e3779b97f4a7c15ULL);
+    z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9ULL;
+    z = (z ^ (z >> 27)) * 0x94d049bb133111ebULL;
+    return z ^ (z >> 31);
+  }
+  static uint64_t ClockTicks();
   void Seed(uint64_t seed);
 
   uint64_t s_[4] = {};

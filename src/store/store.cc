@@ -72,7 +72,7 @@ std::string Rows::Text(int col) const {
   return stmt_->getColumn(col).getString();
 }
 bool Rows::IsNull(int col) const {
-  return stmt_->getColumn(col).isNull();
+  return stmt_->isColumnNull(col);
 }
 
 Value Rows::Get(int col) const {
@@ -125,7 +125,9 @@ SQLite::Database OpenDatabase(const std::filesystem::path& file) {
     throw StoreError("The store " + file.string() + " does not exist");
   }
   try {
-    SQLite::Database db(file.string(), SQLite::OPEN_READWRITE);
+    // One connection serves one thread: SQLite's own locking of every call
+    // would guard nothing.
+    SQLite::Database db(file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     // A file that isn't a database opens without complaint; reading its
     // schema is what finds it out.
     db.exec("SELECT count(*) FROM sqlite_master");
@@ -154,7 +156,7 @@ Store::~Store() {
 }
 
 Store::Cached Store::Acquire(std::string_view sql) {
-  auto it = cache_.find(std::string(sql));
+  auto it = cache_.find(sql);
   if (it == cache_.end()) {
     Entry entry;
     entry.stmt = std::make_unique<SQLite::Statement>(db_, std::string(sql));

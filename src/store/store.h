@@ -17,6 +17,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -186,7 +187,12 @@ class Store {
 
   std::filesystem::path file_;
   SQLite::Database db_;
-  std::unordered_map<std::string, Entry> cache_;
+  // Looked up by the SQL text as given, without building a string.
+  struct SqlHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view sql) const { return std::hash<std::string_view>{}(sql); }
+  };
+  std::unordered_map<std::string, Entry, SqlHash, std::equal_to<>> cache_;
   int txDepth_ = 0;
 };
 
