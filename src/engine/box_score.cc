@@ -103,7 +103,12 @@ std::vector<std::string> FormatBoxScore(const Game& game) {
 void WriteBoxScore(const Game& game) {
   std::ofstream out(game.BoxFileName, std::ios::binary | std::ios::trunc);
   if (!out) throw EngineError("cannot write the box score " + game.BoxFileName.string());
-  for (const std::string& line : FormatBoxScore(game)) out << line << '\n';
+  std::string text;
+  for (const std::string& line : FormatBoxScore(game)) {
+    text += line;
+    text += '\n';
+  }
+  out.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
 std::array<BoxGrid, 2> LoadBoxGrids(const std::filesystem::path& file) {

@@ -430,11 +430,13 @@ void StartGame(Game& game, int live) {
     game.UserEndgameSide.reset();
     StartGameLog(game);
     PlayPeriods(game, live);
+    FinishGameLog(game);
     if (!game.BoxFileName.empty()) WriteBoxScore(game);
     game.GameLogLines.clear();
-    game.GameLogLines.shrink_to_fit();
     if (game.Live()) game.screen->ShowFinal(game);
   } catch (const std::exception& error) {
+    // The periods played so far stay in the log.
+    FinishGameLog(game);
     const int code = dynamic_cast<const EngineError*>(&error) != nullptr
                          ? static_cast<const EngineError&>(error).Code()
                          : 0;

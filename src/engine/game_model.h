@@ -16,6 +16,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -312,6 +313,10 @@ struct Game {
   std::filesystem::path BoxFileName;
   std::filesystem::path GameLogFileName;  // empty: no log
   bool WriteLog = false;
+  // The log file, open from the game's start to its end, and the blocks of
+  // the periods played: the file gets them in one write when the game ends.
+  std::ofstream GameLogOut;
+  std::string GameLogText;
 
   GameLeaders Leaders;
 

@@ -130,25 +130,50 @@ void ResetPeriodLines(Game& game) {
   game.LogCount = 0;
 }
 
-void StartGameLog(const Game& game) {
+void StartGameLog(Game& game) {
   if (!game.WriteLog) return;
-  std::ofstream out(game.GameLogFileName, std::ios::binary | std::ios::trunc);
-  if (!out) throw EngineError("cannot create the game log " + game.GameLogFileName.string());
-  out << game.Away().Team().TeamName << " at " << game.Home().Team().TeamName << "\n\n";
+  game.GameLogOut.close();
+  game.GameLogOut.clear();
+  game.GameLogOut.open(game.GameLogFileName, std::ios::binary | std::ios::trunc);
+  if (!game.GameLogOut) {
+    throw EngineError("cannot create the game log " + game.GameLogFileName.string());
+  }
+  std::string& text = game.GameLogText;
+  text.clear();
+  text += game.Away().Team().TeamName;
+  text += " at ";
+  text += game.Home().Team().TeamName;
+  text += "\n\n";
 }
 
-void AppendPeriodLog(const Game& game) {
+void AppendPeriodLog(Game& game) {
   if (!game.WriteLog || game.LogCount == 0) return;
-  std::ofstream out(game.GameLogFileName, std::ios::binary | std::ios::app);
-  if (!out) throw EngineError("cannot write the game log " + game.GameLogFileName.string());
+  std::string& text = game.GameLogText;
   const std::string& home = game.Home().Team().TeamName;
   const std::string& away = game.Away().Team().TeamName;
   const long gap = 65 - static_cast<long>(home.size()) - static_cast<long>(away.size());
-  out << "Time/ShotClock" << std::string(15, ' ') << "Action"
-      << std::string(static_cast<size_t>(std::max(gap, 0L)), ' ') << home << '-' << away << '\n';
-  for (const std::string& line : game.GameLogLines) out << line << '\n';
+  text += "Time/ShotClock";
+  text.append(15, ' ');
+  text += "Action";
+  text.append(static_cast<size_t>(std::max(gap, 0L)), ' ');
+  text += home;
+  text += '-';
+  text += away;
+  text += '\n';
+  for (const std::string& line : game.GameLogLines) {
+    text += line;
+    text += '\n';
+  }
   // The entry at LogCount is always empty: it closes the block.
-  out << '\n';
+  text += '\n';
+}
+
+void FinishGameLog(Game& game) {
+  if (!game.GameLogOut.is_open()) return;
+  game.GameLogOut.write(game.GameLogText.data(),
+                        static_cast<std::streamsize>(game.GameLogText.size()));
+  game.GameLogOut.close();
+  game.GameLogText.clear();
 }
 
 }  // namespace courtmere

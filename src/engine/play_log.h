@@ -33,10 +33,12 @@ std::string FormatLogLine(const Game& game, std::string_view body);
 std::string FormatLogLine(const Game& game, PlayKind kind, std::string_view text,
                           std::string_view name);
 
-// The game log file: created with its heading at the start of a game, and
-// given one block per period that has lines.
-void StartGameLog(const Game& game);
-void AppendPeriodLog(const Game& game);
+// The game log file: created at the start of a game with its heading, given
+// one block per period that has lines, and written out at the end of the
+// game (or of what was played of it).
+void StartGameLog(Game& game);
+void AppendPeriodLog(Game& game);
+void FinishGameLog(Game& game);
 
 // Empties the current period's lines.
 void ResetPeriodLines(Game& game);
