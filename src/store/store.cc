@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <cctype>
+
 #include "store/store_error.h"
 
 namespace courtmere {
@@ -179,7 +181,54 @@ int Store::Run(Cached& c) {
   return db_.getChanges();
 }
 
+int64_t Store::DataVersion() const {
+  return sqlite3_total_changes64(const_cast<SQLite::Database&>(db_).getHandle()) + otherChanges_;
+}
+
+void Store::NoteStatement(std::string_view sql) {
+  const size_t start = sql.find_first_not_of(" \t\r\n(");
+  if (start == std::string_view::npos) return;
+  std::string word;
+  for (size_t i = start; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i) {
+    word += static_cast<char>(std::toupper(static_cast<unsigned char>(sql[i])));
+  }
+  // Row changes are counted by SQLite itself; queries change nothing.
+  if (word == "SELECT" || word == "INSERT" || word == "UPDATE" || word == "DELETE") return;
+  DataMayChange();
+}
+
+const CachedRows& Store::QueryCached(std::string_view sql, const std::string& param) {
+  const int64_t version = DataVersion();
+  if (version != rowsVersion_) {
+    rowCache_.clear();
+    rowsVersion_ = version;
+  }
+  std::string key(sql);
+  key += '\0';
+  key += param;
+  auto it = rowCache_.find(key);
+  if (it != rowCache_.end()) return it->second;
+
+  CachedRows kept;
+  Rows rows = Query(sql, param);
+  while (rows.Next()) {
+    const int columns = rows.ColumnCount();
+    std::vector<CachedRows::Cell> row(static_cast<size_t>(columns));
+    for (int c = 0; c < columns; ++c) {
+      CachedRows::Cell& cell = row[static_cast<size_t>(c)];
+      // Read as the Rows readers do, the numbers before the text.
+      cell.Null = rows.IsNull(c);
+      cell.Int64 = rows.Int64(c);
+      cell.Double = rows.Double(c);
+      cell.Text = rows.Text(c);
+    }
+    kept.rows_.push_back(std::move(row));
+  }
+  return rowCache_.emplace(std::move(key), std::move(kept)).first->second;
+}
+
 int Store::ExecValues(std::string_view sql, const std::vector<Value>& values) {
+  NoteStatement(sql);
   Cached c = Acquire(sql);
   for (size_t i = 0; i < values.size(); ++i) BindValue(*c.stmt, static_cast<int>(i + 1), values[i]);
   return Run(c);
@@ -216,6 +265,7 @@ std::string Store::LastName(int id) {
 }
 
 void Store::ExecScript(const std::string& sql) {
+  DataMayChange();
   db_.exec(sql);
 }
 
@@ -248,6 +298,7 @@ Store::Transaction::Transaction(Store& store) : store_(store), depth_(store.txDe
 
 Store::Transaction::~Transaction() {
   if (done_) return;
+  store_.DataMayChange();
   try {
     if (depth_ == 0) {
       store_.db_.exec("ROLLBACK");
