@@ -1,5 +1,6 @@
 #include "engine/substitution.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -133,7 +134,9 @@ void SubstitutePlayer(Game& game, int slot, Side side, int minEnergy) {
     // Nobody on the bench: the reserve queue turns. The man in the slot goes
     // to its head place and then to the back; the next reserve comes in.
     std::swap(team.Court[slot], team.Reserve[0]);
-    for (int k = 0; k < team.ReserveCount; ++k) std::swap(team.Reserve[k], team.Reserve[k + 1]);
+    // Everyone from place 1 to ReserveCount moves up one; the head goes last.
+    std::rotate(team.Reserve.begin(), team.Reserve.begin() + 1,
+                team.Reserve.begin() + team.ReserveCount + 1);
     team.IsStarter[slot] = team.Court[slot].Id == team.Depth[slot] ? 1 : 0;
     return;
   }

@@ -188,12 +188,21 @@ int64_t Store::DataVersion() const {
 void Store::NoteStatement(std::string_view sql) {
   const size_t start = sql.find_first_not_of(" \t\r\n(");
   if (start == std::string_view::npos) return;
-  std::string word;
-  for (size_t i = start; i < sql.size() && std::isalpha(static_cast<unsigned char>(sql[i])); ++i) {
-    word += static_cast<char>(std::toupper(static_cast<unsigned char>(sql[i])));
-  }
+  const std::string_view rest = sql.substr(start);
+  auto startsWith = [&](std::string_view word) {
+    if (rest.size() < word.size()) return false;
+    for (size_t i = 0; i < word.size(); ++i) {
+      if (std::toupper(static_cast<unsigned char>(rest[i])) != word[i]) return false;
+    }
+    // The keyword must end there: "UPDATEX" is not an update.
+    return rest.size() == word.size() ||
+           !std::isalnum(static_cast<unsigned char>(rest[word.size()]));
+  };
   // Row changes are counted by SQLite itself; queries change nothing.
-  if (word == "SELECT" || word == "INSERT" || word == "UPDATE" || word == "DELETE") return;
+  if (startsWith("SELECT") || startsWith("INSERT") || startsWith("UPDATE") ||
+      startsWith("DELETE")) {
+    return;
+  }
   DataMayChange();
 }
 
