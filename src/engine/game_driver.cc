@@ -432,7 +432,7 @@ void StartGame(Game& game, int live) {
     PlayPeriods(game, live);
     FinishGameLog(game);
     if (!game.BoxFileName.empty()) WriteBoxScore(game);
-    game.GameLogLines.clear();
+    game.LogCount = 0;
     if (game.Live()) game.screen->ShowFinal(game);
   } catch (const std::exception& error) {
     // The periods played so far stay in the log.

@@ -307,7 +307,8 @@ struct Game {
   int OfficialTimeouts = 0;
   int CurrWeek = 1;
 
-  // The play-by-play of the current period and the files.
+  // The play-by-play of the current period: the first LogCount entries of
+  // GameLogLines (the others only keep their storage); and the files.
   std::vector<std::string> GameLogLines;
   int LogCount = 0;
   std::filesystem::path BoxFileName;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <fstream>
 
 #include "engine/engine_error.h"
@@ -14,13 +15,21 @@ namespace {
 
 constexpr size_t kLogWidth = 96;
 
-void AppendTwoDigits(std::string& out, int value) {
-  if (value >= 0 && value < 100) {
-    out += static_cast<char>('0' + value / 10);
-    out += static_cast<char>('0' + value % 10);
-  } else {
-    out += std::to_string(value);
-  }
+// Writes a number as std::to_string does; room for any int is needed.
+char* PutNumber(char* out, int value) {
+  return std::to_chars(out, out + 12, value).ptr;
+}
+
+// Two digits for 0 to 99, the plain number otherwise.
+char* PutTwoDigits(char* out, int value) {
+  if (value < 0 || value >= 100) return PutNumber(out, value);
+  *out++ = static_cast<char>('0' + value / 10);
+  *out++ = static_cast<char>('0' + value % 10);
+  return out;
+}
+
+char* PutText(char* out, std::string_view text) {
+  return std::copy(text.begin(), text.end(), out);
 }
 
 std::string Upper(std::string_view text) {
@@ -88,21 +97,42 @@ std::string FormatLogLine(const Game& game, std::string_view body) {
 std::string FormatLogLine(const Game& game, PlayKind kind, std::string_view text,
                           std::string_view name) {
   std::string line;
-  line.reserve(kLogWidth + 16);
-  line += std::to_string(game.Half);
-  line += " - ";
-  AppendTwoDigits(line, game.Clock / 60);
-  line += ':';
-  AppendTwoDigits(line, game.Clock % 60);
-  line += " - ";
-  AppendTwoDigits(line, game.ShotClock);
-  line += ": ";
+  FormatLogLineInto(line, game, kind, text, name);
+  return line;
+}
+
+void FormatLogLineInto(std::string& line, const Game& game, PlayKind kind, std::string_view text,
+                       std::string_view name) {
+  // The head and the tail are put together in buffers, the line in one go.
+  char head[64];
+  char* h = PutNumber(head, game.Half);
+  h = PutText(h, " - ");
+  h = PutTwoDigits(h, game.Clock / 60);
+  *h++ = ':';
+  h = PutTwoDigits(h, game.Clock % 60);
+  h = PutText(h, " - ");
+  h = PutTwoDigits(h, game.ShotClock);
+  h = PutText(h, ": ");
+  char tail[32];
+  char* t = PutNumber(tail, game.Home().Score);
+  t = PutText(t, " - ");
+  t = PutNumber(t, game.Away().Score);
+
+  line.clear();
+  line.reserve(kLogWidth + static_cast<size_t>(h - head) + text.size() + name.size() +
+               static_cast<size_t>(t - tail) + 1);
+  line.append(head, h);
   AppendBody(line, kind, text, name);
   // A line longer than the width keeps its text and is not cut.
   if (line.size() < kLogWidth) line.append(kLogWidth - line.size(), ' ');
-  line += std::to_string(game.Home().Score);
-  line += " - ";
-  line += std::to_string(game.Away().Score);
+  line.append(tail, t);
+}
+
+std::string& NewLogLine(Game& game) {
+  std::vector<std::string>& lines = game.GameLogLines;
+  if (static_cast<size_t>(game.LogCount) == lines.size()) lines.emplace_back();
+  std::string& line = lines[static_cast<size_t>(game.LogCount++)];
+  line.clear();
   return line;
 }
 
@@ -117,8 +147,7 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
     // The log line is made first: neither the live screen nor the fill
     // changes the clock, the score or the man it names.
     if (game.WriteLog && kind != PlayKind::Subs) {
-      game.GameLogLines.push_back(FormatLogLine(game, kind, text, name));
-      ++game.LogCount;
+      FormatLogLineInto(NewLogLine(game), game, kind, text, name);
     }
     if (game.Live()) ShowOnScreen(game, text, kind, name, side);
   }
@@ -126,7 +155,6 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
 }
 
 void ResetPeriodLines(Game& game) {
-  game.GameLogLines.clear();
   game.LogCount = 0;
 }
 
@@ -160,8 +188,8 @@ void AppendPeriodLog(Game& game) {
   text += '-';
   text += away;
   text += '\n';
-  for (const std::string& line : game.GameLogLines) {
-    text += line;
+  for (int i = 0; i < game.LogCount; ++i) {
+    text += game.GameLogLines[static_cast<size_t>(i)];
     text += '\n';
   }
   // The entry at LogCount is always empty: it closes the block.

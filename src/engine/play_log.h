@@ -33,6 +33,15 @@ std::string FormatLogLine(const Game& game, std::string_view body);
 std::string FormatLogLine(const Game& game, PlayKind kind, std::string_view text,
                           std::string_view name);
 
+// The same, written over `line`, whose storage it reuses.
+void FormatLogLineInto(std::string& line, const Game& game, PlayKind kind, std::string_view text,
+                       std::string_view name);
+
+// A blank line added to the period's lines (GameLogLines up to LogCount).
+// Lines past LogCount are kept from earlier periods so that their storage
+// serves again.
+std::string& NewLogLine(Game& game);
+
 // The game log file: created at the start of a game with its heading, given
 // one block per period that has lines, and written out at the end of the
 // game (or of what was played of it).
@@ -40,7 +49,7 @@ void StartGameLog(Game& game);
 void AppendPeriodLog(Game& game);
 void FinishGameLog(Game& game);
 
-// Empties the current period's lines.
+// Empties the current period's lines (LogCount goes to 0).
 void ResetPeriodLines(Game& game);
 
 }  // namespace courtmere

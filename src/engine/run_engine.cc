@@ -39,7 +39,6 @@ void ResetGame(Game& game, const GameRequest& request) {
   game.UserEndgameSide.reset();
   game.CurrWeek = game.session->config.CurrWeek;
   game.Leaders = GameLeaders{};
-  game.GameLogLines.clear();
   game.LogCount = 0;
 }
 

@@ -146,9 +146,12 @@ void SubstitutePlayer(Game& game, int slot, Side side, int minEnergy) {
   team.IsStarter[slot] = team.Court[slot].Id == team.Depth[slot] ? 1 : 0;
   if (game.WriteLog) {
     // Substitutions are noted in the log without time or score.
-    game.GameLogLines.push_back(team.Team().TeamName + " SUB - " + team.Court[slot].AbbrName +
-                                " in for " + outgoing.AbbrName);
-    ++game.LogCount;
+    std::string& line = NewLogLine(game);
+    line += team.Team().TeamName;
+    line += " SUB - ";
+    line += team.Court[slot].AbbrName;
+    line += " in for ";
+    line += outgoing.AbbrName;
   }
   team.Bench[b] = std::move(outgoing);
 }
