@@ -106,10 +106,6 @@ GameStat& Game::ScratchLine() {
   return Scratch;
 }
 
-bool Game::WantsText() const {
-  return WriteLog || Live();
-}
-
 DayResults::DayResults() : PlayerLines(kMaxGames), TeamLines(kMaxGames) {}
 
 void ResetGameStats(Game& game) {

@@ -345,7 +345,7 @@ struct Game {
 
   // True when someone will read the text of the play lines: a game log, or
   // a live screen that is being watched.
-  bool WantsText() const;
+  bool WantsText() const { return WriteLog || Live(); }
   bool Live() const { return screen != nullptr && LiveGame == 1; }
 
   // The scratch line that a blank record plays with; never shown.
