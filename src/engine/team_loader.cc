@@ -41,28 +41,28 @@ constexpr const char* kStaff =
     "(SELECT DefCoach FROM Coach WHERE Team = ?1 AND DefPoints = 1), "
     "(SELECT Ability FROM Trainer WHERE Team = ?1)";
 
-void ReadChart(GameSide& side, const CachedRows& rows) {
-  for (int n = 1; n <= GameSide::kDepthEntries; ++n) side.Depth[n] = rows.Int(0, n - 1);
-  side.tactics.SetTempo(rows.Text(0, 15));
-  side.tactics.SetOffenseType(rows.Text(0, 16));
-  side.tactics.SetDefense(rows.Text(0, 17));
-  side.tactics.SetPress(rows.Text(0, 18));
+void ReadChart(GameSide& side, Rows& rows) {
+  for (int n = 1; n <= GameSide::kDepthEntries; ++n) side.Depth[n] = rows.Int(n - 1);
+  side.tactics.SetTempo(rows.Text(15));
+  side.tactics.SetOffenseType(rows.Text(16));
+  side.tactics.SetDefense(rows.Text(17));
+  side.tactics.SetPress(rows.Text(18));
   side.HasRow = true;
-  side.TeamRating = rows.Int(0, 19);
-  side.Prestige = rows.Double(0, 20);
+  side.TeamRating = rows.Int(19);
+  side.Prestige = rows.Double(20);
 }
 
-// Fills the record `p` from row `r`, reusing its texts' storage.
-void ReadPlayer(GamePlayer& p, const CachedRows& rows, int r) {
+GamePlayer ReadPlayer(Rows& rows) {
+  GamePlayer p;
   int c = 0;
-  p.Id = rows.Int(r, c++);
-  p.Name = rows.Text(r, c++);
-  p.AbbrName = rows.Text(r, c++);
-  p.PlayerYear = rows.Text(r, c++);
-  p.Team = rows.Text(r, c++);
-  p.PlayerPosition = rows.Int(r, c++);
-  p.AvoidInjury = rows.Int(r, c++);
-  p.Health = rows.Text(r, c++);
+  p.Id = rows.Int(c++);
+  p.Name = rows.Text(c++);
+  p.AbbrName = rows.Text(c++);
+  p.PlayerYear = rows.Text(c++);
+  p.Team = rows.Text(c++);
+  p.PlayerPosition = rows.Int(c++);
+  p.AvoidInjury = rows.Int(c++);
+  p.Health = rows.Text(c++);
   p.TimeInjured = 0;  // a player who dresses is not hurt
   ++c;
   for (int* field :
@@ -70,46 +70,47 @@ void ReadPlayer(GamePlayer& p, const CachedRows& rows, int r) {
         &p.PerrDefense,   &p.PostDefense,   &p.DefReb,    &p.OffReb,   &p.ShotBlock,  &p.Steal,
         &p.OffRebounding, &p.DefRebounding, &p.Handling,  &p.OffAware, &p.DefAware,   &p.Passing,
         &p.Jumping,       &p.Quickness,     &p.Endurance, &p.Strength, &p.Reach}) {
-    *field = rows.Int(r, c++);
+    *field = rows.Int(c++);
   }
-  p.Pattern = ParseSubPattern(rows.Text(r, c));
-  p.StatIndex = 0;
+  p.Pattern = ParseSubPattern(rows.Text(c));
+  return p;
 }
 
 }  // namespace
 
-// The reads below go through the store's kept rows: the same two teams are
-// read for every game, and the rows are read again once anything changed.
 void LoadDepthAndTactics(Game& game, Side side) {
   GameSide& team = game.SideOf(side);
   Store& store = game.session->Db();
-  const CachedRows& chart = store.QueryCached(kTeamChart, team.School);
-  if (chart.Count() > 0) {
-    ReadChart(team, chart);
-    team.UserTeam = chart.Text(0, 21) == "Human";
-    return;
+  {
+    Rows rows = store.Query(kTeamChart, team.School);
+    if (rows.Next()) {
+      ReadChart(team, rows);
+      team.UserTeam = rows.Text(21) == "Human";
+      return;
+    }
   }
-  const CachedRows& scrub = store.QueryCached(kScrubChart, team.School);
-  if (scrub.Count() > 0) ReadChart(team, scrub);
+  Rows rows = store.Query(kScrubChart, team.School);
+  if (rows.Next()) ReadChart(team, rows);
 }
 
 void LoadCoachValues(Game& game) {
   Store& store = game.session->Db();
   for (GameSide& team : game.sides) {
-    const CachedRows& staff = store.QueryCached(kStaff, team.School);
-    if (!staff.IsNull(0, 0)) {
-      team.OffCoach = staff.Int(0, 0);
+    Rows staff = store.Query(kStaff, team.School);
+    staff.Next();
+    if (!staff.IsNull(0)) {
+      team.OffCoach = staff.Int(0);
     } else {
       // Without an offence coach the team is a background team.
-      const CachedRows& rows = store.QueryCached(
+      Rows rows = store.Query(
           "SELECT OffCoach, DefCoach, Trainer FROM ScrubTeam WHERE SchoolName = ?", team.School);
-      if (rows.Count() == 0) throw EngineError("no coach for " + team.School, 3021);
-      team.OffCoach = rows.Int(0, 0);
-      team.DefCoach = rows.Int(0, 1);
-      team.Trainer = rows.Int(0, 2);
+      if (!rows.Next()) throw EngineError("no coach for " + team.School, 3021);
+      team.OffCoach = rows.Int(0);
+      team.DefCoach = rows.Int(1);
+      team.Trainer = rows.Int(2);
     }
-    if (!staff.IsNull(0, 1)) team.DefCoach = staff.Int(0, 1);
-    if (!staff.IsNull(0, 2)) team.Trainer = staff.Int(0, 2);
+    if (!staff.IsNull(1)) team.DefCoach = staff.Int(1);
+    if (!staff.IsNull(2)) team.Trainer = staff.Int(2);
   }
 }
 
@@ -125,19 +126,18 @@ void LoadRoster(Game& game, Side side) {
   Store& store = game.session->Db();
   team.RosterCount = 0;
   for (const char* sql : {kPlayers, kScrubPlayers}) {
-    const CachedRows& rows = store.QueryCached(sql, team.School);
+    Rows rows = store.Query(sql, team.School);
     // Design decision: a team with more eligible players than the game has
     // places dresses the first 12 in table order; the others sit the game out.
-    for (int r = 0; team.RosterCount < GameSide::kMaxRoster && r < rows.Count(); ++r) {
+    while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {
       const int index = ++team.RosterCount;
-      GamePlayer& player = team.Roster[index];
-      ReadPlayer(player, rows, r);
-      player.StatIndex = index;
+      team.Roster[index] = ReadPlayer(rows);
+      team.Roster[index].StatIndex = index;
       GameStat& line = team.Stats[index];
       line = GameStat{};
-      line.Id = player.Id;
-      line.Energy = player.Endurance;
-      line.TeamName = player.Team;
+      line.Id = team.Roster[index].Id;
+      line.Energy = team.Roster[index].Endurance;
+      line.TeamName = team.Roster[index].Team;
     }
     if (team.RosterCount > 0) return;
   }

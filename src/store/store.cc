@@ -2,8 +2,6 @@
 
 #include <sqlite3.h>
 
-#include <cctype>
-
 #include "store/store_error.h"
 
 namespace courtmere {
@@ -181,63 +179,7 @@ int Store::Run(Cached& c) {
   return db_.getChanges();
 }
 
-int64_t Store::DataVersion() const {
-  return sqlite3_total_changes64(const_cast<SQLite::Database&>(db_).getHandle()) + otherChanges_;
-}
-
-void Store::NoteStatement(std::string_view sql) {
-  const size_t start = sql.find_first_not_of(" \t\r\n(");
-  if (start == std::string_view::npos) return;
-  const std::string_view rest = sql.substr(start);
-  auto startsWith = [&](std::string_view word) {
-    if (rest.size() < word.size()) return false;
-    for (size_t i = 0; i < word.size(); ++i) {
-      if (std::toupper(static_cast<unsigned char>(rest[i])) != word[i]) return false;
-    }
-    // The keyword must end there: "UPDATEX" is not an update.
-    return rest.size() == word.size() ||
-           !std::isalnum(static_cast<unsigned char>(rest[word.size()]));
-  };
-  // Row changes are counted by SQLite itself; queries change nothing.
-  if (startsWith("SELECT") || startsWith("INSERT") || startsWith("UPDATE") ||
-      startsWith("DELETE")) {
-    return;
-  }
-  DataMayChange();
-}
-
-const CachedRows& Store::QueryCached(std::string_view sql, const std::string& param) {
-  const int64_t version = DataVersion();
-  if (version != rowsVersion_) {
-    rowCache_.clear();
-    rowsVersion_ = version;
-  }
-  std::string key(sql);
-  key += '\0';
-  key += param;
-  auto it = rowCache_.find(key);
-  if (it != rowCache_.end()) return it->second;
-
-  CachedRows kept;
-  Rows rows = Query(sql, param);
-  while (rows.Next()) {
-    const int columns = rows.ColumnCount();
-    std::vector<CachedRows::Cell> row(static_cast<size_t>(columns));
-    for (int c = 0; c < columns; ++c) {
-      CachedRows::Cell& cell = row[static_cast<size_t>(c)];
-      // Read as the Rows readers do, the numbers before the text.
-      cell.Null = rows.IsNull(c);
-      cell.Int64 = rows.Int64(c);
-      cell.Double = rows.Double(c);
-      cell.Text = rows.Text(c);
-    }
-    kept.rows_.push_back(std::move(row));
-  }
-  return rowCache_.emplace(std::move(key), std::move(kept)).first->second;
-}
-
 int Store::ExecValues(std::string_view sql, const std::vector<Value>& values) {
-  NoteStatement(sql);
   Cached c = Acquire(sql);
   for (size_t i = 0; i < values.size(); ++i) BindValue(*c.stmt, static_cast<int>(i + 1), values[i]);
   return Run(c);
@@ -274,7 +216,6 @@ std::string Store::LastName(int id) {
 }
 
 void Store::ExecScript(const std::string& sql) {
-  DataMayChange();
   db_.exec(sql);
 }
 
@@ -307,7 +248,6 @@ Store::Transaction::Transaction(Store& store) : store_(store), depth_(store.txDe
 
 Store::Transaction::~Transaction() {
   if (done_) return;
-  store_.DataMayChange();
   try {
     if (depth_ == 0) {
       store_.db_.exec("ROLLBACK");

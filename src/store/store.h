@@ -80,31 +80,6 @@ class Rows {
   bool* inUse_;
 };
 
-// The rows of a query kept in memory. Each cell holds what the column
-// readers of Rows would give: the integer, the float, the text, and whether
-// it is NULL.
-class CachedRows {
- public:
-  struct Cell {
-    int64_t Int64 = 0;
-    double Double = 0;
-    std::string Text;
-    bool Null = true;
-  };
-
-  int Count() const { return static_cast<int>(rows_.size()); }
-  int Int(int row, int col) const { return static_cast<int>(At(row, col).Int64); }
-  double Double(int row, int col) const { return At(row, col).Double; }
-  const std::string& Text(int row, int col) const { return At(row, col).Text; }
-  bool IsNull(int row, int col) const { return At(row, col).Null; }
-
- private:
-  friend class Store;
-  const Cell& At(int row, int col) const { return rows_.at(row).at(col); }
-
-  std::vector<std::vector<Cell>> rows_;
-};
-
 class Store {
  public:
   // Opens an existing store file. Throws StoreError when it is missing or is
@@ -119,7 +94,6 @@ class Store {
   // Runs a statement with bound parameters; returns the rows it changed.
   template <class... Args>
   int Exec(std::string_view sql, const Args&... args) {
-    NoteStatement(sql);
     Cached c = Acquire(sql);
     BindAll(*c.stmt, args...);
     return Run(c);
@@ -131,19 +105,10 @@ class Store {
   // Opens a query for reading forward.
   template <class... Args>
   Rows Query(std::string_view sql, const Args&... args) {
-    NoteStatement(sql);
     Cached c = Acquire(sql);
     BindAll(*c.stmt, args...);
     return Rows(c.stmt, std::move(c.owned), c.inUse);
   }
-
-  // The rows of a query with one text parameter, read once and then served
-  // from memory until the store's data may have changed: any row written,
-  // any transaction rolled back, any statement other than a plain query or
-  // row change run through the store. Meant for reads that repeat, such as
-  // the two teams of every game. The reference holds until a later call finds
-  // the data changed.
-  const CachedRows& QueryCached(std::string_view sql, const std::string& param);
 
   // The first column of the first row, if there is a row and it is not NULL.
   template <class... Args>
@@ -229,19 +194,6 @@ class Store {
   };
   std::unordered_map<std::string, Entry, SqlHash, std::equal_to<>> cache_;
   int txDepth_ = 0;
-
-  // The data's version as far as cached rows are concerned: the rows changed
-  // on the connection plus the other events that can change what a query
-  // reads.
-  int64_t DataVersion() const;
-  // Notes an event that may change data without counting as changed rows.
-  void DataMayChange() { ++otherChanges_; }
-  // Notes a statement run through the store: one that is not a plain query
-  // or row change may change data uncounted (DDL, ROLLBACK...).
-  void NoteStatement(std::string_view sql);
-  int64_t otherChanges_ = 0;
-  int64_t rowsVersion_ = -1;  // the version the kept rows were read at
-  std::unordered_map<std::string, CachedRows> rowCache_;
 };
 
 }  // namespace courtmere

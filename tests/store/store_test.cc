@@ -98,35 +98,6 @@ TEST_F(StoreTest, TransactionsRollBackUnlessCommittedAndNest) {
   EXPECT_FALSE(store_->ScalarInt("SELECT Id FROM Trainer WHERE Id = 2").has_value());
 }
 
-TEST_F(StoreTest, KeptRowsFollowEveryChangeOfTheData) {
-  store_->Append("Trainer", {{"Id", 1}, {"Ability", 40}, {"Team", "Duke"}});
-  const char* sql = "SELECT Ability, Name FROM Trainer WHERE Team = ?";
-  auto ability = [&] {
-    const CachedRows& rows = store_->QueryCached(sql, "Duke");
-    return rows.Count() == 0 ? -1 : rows.Int(0, 0);
-  };
-  EXPECT_EQ(ability(), 40);
-  EXPECT_TRUE(store_->QueryCached(sql, "Duke").IsNull(0, 1));
-  EXPECT_EQ(store_->QueryCached(sql, "Duke").Text(0, 1), "");
-  EXPECT_EQ(store_->QueryCached(sql, "Clemson").Count(), 0);
-
-  store_->Exec("UPDATE Trainer SET Ability = 55 WHERE Id = 1");
-  EXPECT_EQ(ability(), 55);
-  // An update that changes no row keeps the rows as they are.
-  store_->Exec("UPDATE Trainer SET Ability = 0 WHERE Id = 99");
-  EXPECT_EQ(ability(), 55);
-  {
-    Store::Transaction tx(*store_);
-    store_->Exec("UPDATE Trainer SET Ability = 70 WHERE Id = 1");
-    EXPECT_EQ(ability(), 70);
-  }  // rolled back: the kept 70 must go
-  EXPECT_EQ(ability(), 55);
-  store_->Exec("DELETE FROM Trainer");
-  EXPECT_EQ(ability(), -1);
-  store_->ExecScript("INSERT INTO Trainer (Id, Ability, Team) VALUES (2, 61, 'Duke')");
-  EXPECT_EQ(ability(), 61);
-}
-
 TEST_F(StoreTest, SeeksNamesById) {
   store_->Exec("DELETE FROM FName");
   store_->Exec("DELETE FROM LName");
