@@ -24,8 +24,8 @@ struct ScoutSkills {
   int Handling = 0;
 };
 
-// Letters of the normal scale (a grade is the one-letter text): "A" above 74, "B" above 62, "C" above 49,
-// "D" above 40, else "F".
+// Letters of the normal scale (a grade is the one-letter text): "A" above 74, "B" above 62, "C"
+// above 49, "D" above 40, else "F".
 char GradeLetter(double x);
 // Letters of the potential scale: "A" above 75, "B" above 60, "C" above 50,
 // "D" above 40, else "F".
