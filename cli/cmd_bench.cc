@@ -76,13 +76,18 @@ void RunBench(CliContext& context, int games) {
   request.WriteFiles = false;
   // The games run in one transaction, as a day's batch does.
   Store::Transaction tx(store);
-  const auto start = std::chrono::steady_clock::now();
+  // Only the games are timed: the signature and the healing below are the
+  // benchmark's own work, not the engine's.
+  std::chrono::steady_clock::duration played{};
   for (int g = 0; g < games; ++g) {
     request.BatchIndex = g % 150 + 1;
     request.GameNo = g + 1;
     std::string box;
     std::string log = "none";
-    if (RunEngine(game, day, request, box, log) != 1) {
+    const auto start = std::chrono::steady_clock::now();
+    const int result = RunEngine(game, day, request, box, log);
+    played += std::chrono::steady_clock::now() - start;
+    if (result != 1) {
       throw std::runtime_error("game " + std::to_string(g + 1) + " could not be played");
     }
     signature.Add(
@@ -91,8 +96,7 @@ void RunBench(CliContext& context, int games) {
     // The injured heal between games, so that the workload stays the same.
     store.Exec("UPDATE Player SET TimeInjured = 0, Health = 'Good' WHERE Health <> 'Good'");
   }
-  const double seconds =
-      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  const double seconds = std::chrono::duration<double>(played).count();
   tx.Commit();
   fmt::print("{} at {}: {} games\n", pair.away, pair.home, games);
   fmt::print("signature {:016x} games {} seconds {:.3f} games_per_second {:.0f}\n",

@@ -57,7 +57,7 @@ void AppendTable(std::vector<std::string>& out, const GameSide& side, const Game
     const GamePlayer& player = side.Roster[i];
     const GameStat& line = side.Stats[i];
     std::string lead;
-    Pad(lead, player.AbbrName, 16);
+    Pad(lead, side.Texts[i].AbbrName, 16);
     Pad(lead, PositionName(player.PlayerPosition), 4);
     out.push_back(Row(lead, line, CInt(line.SecondsPlayed / 60.0), line.PlusMinus));
   }

@@ -9,9 +9,10 @@ namespace courtmere {
 
 namespace {
 
-void PlaceLine(std::string& out, int number, const GamePlayer& man, bool withPattern) {
+void PlaceLine(std::string& out, const GameSide& side, int number, const GamePlayer& man,
+               bool withPattern) {
   out += std::to_string(number) + ". ";
-  out += man.Id == 0 ? std::string("None") : man.Name;
+  out += man.Id == 0 ? std::string("None") : side.TextsOf(man).Name;
   out += " ID: " + std::to_string(man.Id);
   if (withPattern) out += std::string(", SubRate: ") + SubPatternText(man.Pattern);
   out += '\n';
@@ -20,11 +21,11 @@ void PlaceLine(std::string& out, int number, const GamePlayer& man, bool withPat
 void SideBlocks(std::string& out, const GameSide& side) {
   const std::string& school = side.Team().TeamName;
   out += '\n' + school + " Starters\n";
-  for (int slot = 1; slot <= 5; ++slot) PlaceLine(out, slot, side.Court[slot], false);
+  for (int slot = 1; slot <= 5; ++slot) PlaceLine(out, side, slot, side.Court[slot], false);
   out += '\n' + school + " Reserves\n";
-  for (int b = 1; b <= GameSide::kBenchPlaces; ++b) PlaceLine(out, b, side.Bench[b], true);
+  for (int b = 1; b <= GameSide::kBenchPlaces; ++b) PlaceLine(out, side, b, side.Bench[b], true);
   out += '\n' + school + " Deep Bench\n";
-  for (int r = 1; r <= GameSide::kMaxReserves; ++r) PlaceLine(out, r, side.Reserve[r], true);
+  for (int r = 1; r <= GameSide::kMaxReserves; ++r) PlaceLine(out, side, r, side.Reserve[r], true);
   out += '\n' + school + " Stats and Info\n";
   for (int i = 1; i <= GameSide::kTeamLine; ++i) {
     const GameStat& line = side.Stats[i];

@@ -95,7 +95,7 @@ void LiveChange(Game& game) {
     game.Rebounded = 0;
     const int guard = RollDie(*game.rng, 10) > 7 ? 2 : 1;
     PostPlayWith(game, PlayKind::Offense,
-                 [&] { return "passes the ball to " + game.Offense().Court[guard].AbbrName; });
+                 [&] { return "passes the ball to " + game.Offense().CourtName(guard); });
     game.BallPos = guard;
   }
   game.Distance = 35;
@@ -354,8 +354,7 @@ void FoulCycle(Game& game, bool clockRunsBeforeFoul) {
     AddStat(game, Stat::Foul, SideWordRole::Defense, fouler);
     const std::string text = PlayText(game, game.Distance, PlayVariant::NonShootFoul);
     if (clockRunsBeforeFoul) game.Clock -= Int(game.rng->Rnd() * 2 + 1);
-    PostPlayWith(game, PlayKind::Offense,
-                 [&] { return text + game.Defense().Court[fouler].AbbrName; });
+    PostPlayWith(game, PlayKind::Offense, [&] { return text + game.Defense().CourtName(fouler); });
     CheckSubs(game);
     if (defense.Fouls >= kBonusFouls) last = BonusFreeThrows(game);
     if (defense.Fouls < kBonusFouls) InboundAfterFoul(game);
@@ -367,7 +366,7 @@ void NonShootingFoul(Game& game) {
   const std::string text = PlayText(game, game.Distance, PlayVariant::NonShootFoul);
   AddStat(game, Stat::Foul, SideWordRole::Defense, game.Fouler);
   PostPlayWith(game, PlayKind::Offense,
-               [&] { return text + game.Defense().Court[game.Fouler].AbbrName; });
+               [&] { return text + game.Defense().CourtName(game.Fouler); });
   CheckSubs(game);
   game.Fouler = 0;
   if (game.Defense().Fouls >= kBonusFouls) {
@@ -392,7 +391,7 @@ void InboundAfterFoul(Game& game) {
   }
   const std::string text = PlayText(game, game.Distance, PlayVariant::Pass);
   PostPlayWith(game, PlayKind::Offense,
-               [&] { return text + game.Offense().Court[game.Passer].AbbrName; });
+               [&] { return text + game.Offense().CourtName(game.Passer); });
 }
 
 void BuzzerBeater(Game& game) {

@@ -42,16 +42,13 @@ enum class SubPattern : uint8_t { Normal, More, Less };
 SubPattern ParseSubPattern(std::string_view text);
 const char* SubPatternText(SubPattern pattern);
 
-// One player as the game sees him.
+// One player as the game sees him: numbers only, so that the records the
+// floor, bench and reserve copy on every substitution are plain values. His
+// texts stand beside the roster (`GameSide::Texts`).
 struct GamePlayer {
   int Id = 0;  // 0 in a floor slot: the slot is empty
-  std::string Name;
-  std::string AbbrName;
-  std::string PlayerYear;
-  std::string Team;
   int PlayerPosition = 0;
   int AvoidInjury = 0;
-  std::string Health;
   int TimeInjured = 0;
   int Intelligence = 0;
   int Jumpshot = 0;
@@ -77,9 +74,19 @@ struct GamePlayer {
   int Strength = 0;
   int Reach = 0;
   SubPattern Pattern = SubPattern::Normal;
-  // Where his statistics line stands in his side's array (0: none). A
-  // shortcut for the search by Id; the line found is the same.
+  // Where his roster record, texts and statistics line stand in his side's
+  // arrays (0: none). A shortcut for the search by Id; what it finds is the
+  // same.
   int StatIndex = 0;
+};
+
+// The texts of a roster record.
+struct PlayerTexts {
+  std::string Name;
+  std::string AbbrName;
+  std::string PlayerYear;
+  std::string Team;
+  std::string Health;
 };
 
 // The statistics line of one player, or in entry 13 of a side, of the team.
@@ -156,6 +163,8 @@ struct GameSide {
   double Prestige = 0;
 
   std::array<GamePlayer, kMaxRoster + 1> Roster{};
+  // Texts[i] belongs to Roster[i]; Texts[0], always empty, to a blank record.
+  std::array<PlayerTexts, kMaxRoster + 1> Texts{};
   int RosterCount = 0;
   std::array<GameStat, kTeamLine + 1> Stats{};
   std::array<int, kDepthEntries + 1> Depth{};
@@ -213,6 +222,13 @@ struct GameSide {
   }
   // The roster record with that Id, or null.
   const GamePlayer* FindRoster(int id) const;
+  // The roster index of a record: through its StatIndex when that still
+  // points at him, by the search otherwise; 0 for a blank or unknown record.
+  int RosterIndexOf(const GamePlayer& man) const;
+  // The texts of a record (the empty ones for a blank or unknown record).
+  const PlayerTexts& TextsOf(const GamePlayer& man) const { return Texts[RosterIndexOf(man)]; }
+  // The short name of the man in a floor slot.
+  const std::string& CourtName(int slot) const { return TextsOf(Court[slot]).AbbrName; }
   bool OnCourt(int id) const {
     return Court[1].Id == id || Court[2].Id == id || Court[3].Id == id || Court[4].Id == id ||
            Court[5].Id == id;

@@ -33,7 +33,8 @@ bool InjurePlayer(Game& game, Side side, int slot, bool background) {
   const std::string injury = rows.Text(0);
   const int weeksOut = rows.Int(1);
 
-  man.Health = injury;
+  const int index = team.RosterIndexOf(man);
+  if (index != 0) team.Texts[index].Health = injury;
   // A row of one week or less is a day-to-day knock: no weeks out, only the
   // injury's name in Health, which keeps him off the depth charts until the
   // week's healing.
@@ -63,8 +64,9 @@ void InjuryCheck(Game& game) {
       store.ScalarInt("SELECT COUNT(*) FROM Team WHERE SchoolName = ?", team.School).value_or(0) ==
       0;
   if (!InjurePlayer(game, game.Possession, game.BallPos, background)) return;
-  PostPlayWith(game, PlayKind::Foul,
-               [&] { return team.Court[game.BallPos].Name + " left the game with an injury!"; });
+  PostPlayWith(game, PlayKind::Foul, [&] {
+    return team.TextsOf(team.Court[game.BallPos]).Name + " left the game with an injury!";
+  });
   if (background) {
     store.Exec("UPDATE ScrubTeam SET PG1 = 0 WHERE SchoolName = ?", team.School);
   } else if (!team.UserTeam) {

@@ -68,7 +68,7 @@ void InboundBall(Game& game) {
   }
   game.BallPos = receiver;
   PostPlayWith(game, PlayKind::Offense, [&] {
-    return "gets the inbounds pass from " + game.Offense().Court[inbounder].AbbrName;
+    return "gets the inbounds pass from " + game.Offense().CourtName(inbounder);
   });
 }
 
@@ -114,7 +114,7 @@ void BringBallUp(Game& game) {
       // itself shows no distance.
       rng.Rnd();
       PostPlayWith(game, PlayKind::Offense,
-                   [&] { return "receives a pass from " + game.Offense().Court[prev].AbbrName; });
+                   [&] { return "receives a pass from " + game.Offense().CourtName(prev); });
     }
   } else {
     game.BallPos = p >= 61 ? 1 : (p >= 31 ? 2 : (p >= 11 ? 3 : 5));

@@ -143,7 +143,7 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
 
   if (game.WantsText()) {
     const Side side = LineSide(game, kind);
-    const std::string& name = game.SideOf(side).Court[game.BallPos].AbbrName;
+    const std::string& name = game.SideOf(side).CourtName(game.BallPos);
     // The log line is made first: neither the live screen nor the fill
     // changes the clock, the score or the man it names.
     if (game.WriteLog && kind != PlayKind::Subs) {

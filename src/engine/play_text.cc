@@ -134,11 +134,11 @@ std::string PlayText(Game& game, int distance, PlayVariant variant) {
 
   std::string text;
   if (variant == PlayVariant::Pass2) {
-    text = game.Offense().Court[game.Passer].AbbrName;
+    text = game.Offense().CourtName(game.Passer);
     text += Pass2Phrase(v);
   } else if (charge) {
     text = "knocks over the defender. ";
-    text += game.Defense().Court[game.BallPos].AbbrName;
+    text += game.Defense().CourtName(game.BallPos);
     text += " takes the Charge!";
   } else {
     text = PlayTableText(variant, distance, v);

@@ -126,11 +126,11 @@ void KeepLeaders(Game& game) {
       const int rebounds = line.OffRebounds + line.DefRebounds;
       if (line.Points > game.Leaders.Points[s]) {
         game.Leaders.Points[s] = line.Points;
-        game.Leaders.PointsName[s] = side.Roster[k].AbbrName;
+        game.Leaders.PointsName[s] = side.Texts[k].AbbrName;
       }
       if (rebounds > game.Leaders.Rebounds[s]) {
         game.Leaders.Rebounds[s] = rebounds;
-        game.Leaders.ReboundsName[s] = side.Roster[k].AbbrName;
+        game.Leaders.ReboundsName[s] = side.Texts[k].AbbrName;
       }
     }
   }

@@ -126,8 +126,7 @@ void ResolveFouledShot(Game& game, int shotValue) {
   const int dist = game.Distance;
   const int fouler = game.Fouler;
   std::string text = PlayText(game, dist, PlayVariant::ShootFoul);
-  PostPlayWith(game, PlayKind::Offense,
-               [&] { return text + game.Defense().Court[fouler].AbbrName; });
+  PostPlayWith(game, PlayKind::Offense, [&] { return text + game.Defense().CourtName(fouler); });
   AddStat(game, Stat::Foul, SideWordRole::Defense, fouler);
 
   int last = 0;
@@ -163,7 +162,7 @@ void ResolveCleanShot(Game& game, int shotValue) {
   if (game.Blocker >= 1) {
     const std::string text = PlayText(game, dist, PlayVariant::Block);
     PostPlayWith(game, PlayKind::Offense,
-                 [&] { return text + game.Defense().Court[game.Blocker].AbbrName; });
+                 [&] { return text + game.Defense().CourtName(game.Blocker); });
     AddStat(game, Stat::ShotBlock, SideWordRole::Defense, game.Blocker);
     game.Distance = Rebound(game, game.Distance, true);
     return;
@@ -182,7 +181,7 @@ void ResolveCleanShot(Game& game, int shotValue) {
     const int a = RollDie(*game.rng, 10);
     const int b = RollDie(*game.rng, 10);
     if ((game.Passer == 1 && a > 2) || b > 4) {
-      if (game.WantsText()) text += " (" + game.Offense().Court[game.Passer].AbbrName + ")";
+      if (game.WantsText()) text += " (" + game.Offense().CourtName(game.Passer) + ")";
       AddStat(game, Stat::Assist, SideWordRole::Offense, game.Passer);
     }
   }

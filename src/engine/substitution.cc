@@ -59,7 +59,7 @@ void RemoveMenWhoMustLeave(Game& game) {
       const bool fouledOut = line != nullptr && line->Fouls >= kFouledOut;
       if (!fouledOut && man.TimeInjured <= 1) continue;
       PostPlayWith(game, PlayKind::Foul, [&] {
-        return man.AbbrName +
+        return team.TextsOf(man).AbbrName +
                (fouledOut ? " fouled out of the game" : " left the game with an injury");
       });
       man.Id = 0;
@@ -149,9 +149,9 @@ void SubstitutePlayer(Game& game, int slot, Side side, int minEnergy) {
     std::string& line = NewLogLine(game);
     line += team.Team().TeamName;
     line += " SUB - ";
-    line += team.Court[slot].AbbrName;
+    line += team.CourtName(slot);
     line += " in for ";
-    line += outgoing.AbbrName;
+    line += team.TextsOf(outgoing).AbbrName;
   }
   team.Bench[b] = std::move(outgoing);
 }

@@ -52,17 +52,17 @@ void ReadChart(GameSide& side, Rows& rows) {
   side.Prestige = rows.Double(20);
 }
 
-GamePlayer ReadPlayer(Rows& rows) {
-  GamePlayer p;
+void ReadPlayer(Rows& rows, GamePlayer& p, PlayerTexts& texts) {
+  p = GamePlayer{};
   int c = 0;
   p.Id = rows.Int(c++);
-  p.Name = rows.Text(c++);
-  p.AbbrName = rows.Text(c++);
-  p.PlayerYear = rows.Text(c++);
-  p.Team = rows.Text(c++);
+  rows.TextInto(c++, texts.Name);
+  rows.TextInto(c++, texts.AbbrName);
+  rows.TextInto(c++, texts.PlayerYear);
+  rows.TextInto(c++, texts.Team);
   p.PlayerPosition = rows.Int(c++);
   p.AvoidInjury = rows.Int(c++);
-  p.Health = rows.Text(c++);
+  rows.TextInto(c++, texts.Health);
   p.TimeInjured = 0;  // a player who dresses is not hurt
   ++c;
   for (int* field :
@@ -72,8 +72,7 @@ GamePlayer ReadPlayer(Rows& rows) {
         &p.Jumping,       &p.Quickness,     &p.Endurance, &p.Strength, &p.Reach}) {
     *field = rows.Int(c++);
   }
-  p.Pattern = ParseSubPattern(rows.Text(c));
-  return p;
+  p.Pattern = ParseSubPattern(rows.TextView(c));
 }
 
 }  // namespace
@@ -131,13 +130,14 @@ void LoadRoster(Game& game, Side side) {
     // places dresses the first 12 in table order; the others sit the game out.
     while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {
       const int index = ++team.RosterCount;
-      team.Roster[index] = ReadPlayer(rows);
-      team.Roster[index].StatIndex = index;
+      GamePlayer& player = team.Roster[index];
+      ReadPlayer(rows, player, team.Texts[index]);
+      player.StatIndex = index;
       GameStat& line = team.Stats[index];
-      line = GameStat{};
-      line.Id = team.Roster[index].Id;
-      line.Energy = team.Roster[index].Endurance;
-      line.TeamName = team.Roster[index].Team;
+      line.ClearCounters();
+      line.Id = player.Id;
+      line.Energy = player.Endurance;
+      line.TeamName = team.Texts[index].Team;
     }
     if (team.RosterCount > 0) return;
   }

@@ -22,22 +22,23 @@ inline int Fix(double x) {
   return static_cast<int>(std::trunc(x));
 }
 
-// Nearest whole number, ties to even. std::nearbyint follows the current
-// rounding mode, which the program never changes from round-to-nearest.
+// Nearest whole number, ties to even. std::rint follows the current rounding
+// mode, which the program never changes from round-to-nearest; unlike
+// std::nearbyint it compiles to a few inline instructions.
 inline int CInt(double x) {
-  return static_cast<int>(std::nearbyint(x));
+  return static_cast<int>(std::rint(x));
 }
 
 // Rounds to `places` decimals, ties to even on the scaled value.
 inline double Round(double x, int places = 0) {
-  if (places == 0) return std::nearbyint(x);
+  if (places == 0) return std::rint(x);
   const double scale = std::pow(10.0, places);
-  return std::nearbyint(x * scale) / scale;
+  return std::rint(x * scale) / scale;
 }
 
 // The value a float takes when it is stored in an integer column.
 inline int64_t ToStoredInt(double x) {
-  return static_cast<int64_t>(std::nearbyint(x));
+  return static_cast<int64_t>(std::rint(x));
 }
 
 }  // namespace courtmere

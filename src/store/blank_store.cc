@@ -28,6 +28,7 @@ void BuildBlankStore(const std::filesystem::path& file) {
   std::filesystem::remove(temp);
   {
     // SQLite makes the file on open with the create flag.
+    ConfigureSqliteOnce();
     SQLite::Database create(temp.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
   }
   try {

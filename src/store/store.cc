@@ -31,6 +31,17 @@ void BindValue(SQLite::Statement& stmt, int index, const Value& value) {
   std::visit([&](const auto& v) { BindValue(stmt, index, v); }, value);
 }
 
+void ConfigureSqliteOnce() {
+  static const bool configured = [] {
+    // SQLite keeps memory statistics behind a global mutex taken on every
+    // allocation; the program never reads them. Refused (and harmless) when
+    // SQLite was already started.
+    sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    return true;
+  }();
+  (void)configured;
+}
+
 // ---------------------------------------------------------------------------
 // Rows
 
@@ -70,6 +81,15 @@ double Rows::Double(int col) const {
 }
 std::string Rows::Text(int col) const {
   return stmt_->getColumn(col).getString();
+}
+std::string_view Rows::TextView(int col) const {
+  const SQLite::Column column = stmt_->getColumn(col);
+  // The text first, then its length: reading the text may convert the value.
+  const char* text = column.getText("");
+  return {text, static_cast<size_t>(column.getBytes())};
+}
+void Rows::TextInto(int col, std::string& out) const {
+  out.assign(TextView(col));
 }
 bool Rows::IsNull(int col) const {
   return stmt_->isColumnNull(col);
@@ -121,6 +141,7 @@ std::string Rows::ColumnName(int col) const {
 namespace {
 
 SQLite::Database OpenDatabase(const std::filesystem::path& file) {
+  ConfigureSqliteOnce();
   if (!std::filesystem::exists(file)) {
     throw StoreError("The store " + file.string() + " does not exist");
   }

@@ -46,6 +46,10 @@ void BindValue(SQLite::Statement& stmt, int index, const Value& value);
 // A forward-only reader over a query's rows. Columns are read by position or
 // by name; a NULL reads as 0, 0.0 or an empty text. The statement goes back to
 // the store's cache when the reader is destroyed.
+// The settings SQLite takes before its first use; call before opening any
+// database file. Runs once.
+void ConfigureSqliteOnce();
+
 class Rows {
  public:
   Rows(SQLite::Statement* stmt, std::unique_ptr<SQLite::Statement> owned, bool* inUse);
@@ -61,6 +65,10 @@ class Rows {
   int64_t Int64(int col) const;
   double Double(int col) const;
   std::string Text(int col) const;
+  // The text of a column, valid until the next step or column read.
+  std::string_view TextView(int col) const;
+  // Writes the text of a column over `out`, reusing its storage.
+  void TextInto(int col, std::string& out) const;
   bool IsNull(int col) const;
   Value Get(int col) const;
 

@@ -6,6 +6,7 @@
 #include "platform/file_cipher.h"
 #include "store/blank_store.h"
 #include "store/session.h"
+#include "store/store.h"
 #include "store/store_error.h"
 
 namespace courtmere {
@@ -86,6 +87,7 @@ void CompactStore(Session& session) {
   const std::filesystem::path temp = session.folder.CompactTemp();
   std::filesystem::remove(temp);
   {
+    ConfigureSqliteOnce();
     SQLite::Database db(session.folder.Store().string(), SQLite::OPEN_READWRITE);
     SQLite::Statement vacuum(db, "VACUUM INTO ?");
     vacuum.bind(1, temp.string());

@@ -25,7 +25,7 @@ struct BoxScore : ::testing::Test {
       side.Team().TeamName = s == 0 ? "St. John's" : "Lakeview State";
       for (int i = 1; i <= side.RosterCount; ++i) {
         side.Roster[i].Id = 100 * s + i;
-        side.Roster[i].AbbrName = "A. Player" + std::to_string(i);
+        side.Texts[i].AbbrName = "A. Player" + std::to_string(i);
         side.Roster[i].PlayerPosition = i % 6;  // 0 prints as "C"
         side.Stats[i].Id = side.Roster[i].Id;
       }

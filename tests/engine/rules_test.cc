@@ -35,8 +35,9 @@ struct Rules : ::testing::Test {
       for (int i = 1; i <= 12; ++i) {
         GamePlayer& p = side.Roster[i];
         p.Id = 100 * (s + 1) + i;
-        p.AbbrName = std::to_string(p.Id);
-        p.AbbrName.insert(0, 1, 'P');
+        std::string& name = side.Texts[i].AbbrName;
+        name = std::to_string(p.Id);
+        name.insert(0, 1, 'P');
         p.PlayerPosition = (i - 1) % 5 + 1;
         p.AvoidInjury = 100;
         p.Endurance = 2000;
