@@ -4,6 +4,7 @@
 
 #include "engine/engine_error.h"
 #include "people/player.h"
+#include "platform/fresh_file.h"
 #include "platform/numeric.h"
 
 namespace courtmere {
@@ -101,6 +102,7 @@ std::vector<std::string> FormatBoxScore(const Game& game) {
 }
 
 void WriteBoxScore(const Game& game) {
+  RemoveOldFile(game.BoxFileName);
   std::ofstream out(game.BoxFileName, std::ios::binary | std::ios::trunc);
   if (!out) throw EngineError("cannot write the box score " + game.BoxFileName.string());
   std::string text;

@@ -8,6 +8,7 @@
 #include "engine/engine_error.h"
 #include "engine/live_screen.h"
 #include "engine/substitution.h"
+#include "platform/fresh_file.h"
 
 namespace courtmere {
 
@@ -162,6 +163,7 @@ void StartGameLog(Game& game) {
   if (!game.WriteLog) return;
   game.GameLogOut.close();
   game.GameLogOut.clear();
+  RemoveOldFile(game.GameLogFileName);
   game.GameLogOut.open(game.GameLogFileName, std::ios::binary | std::ios::trunc);
   if (!game.GameLogOut) {
     throw EngineError("cannot create the game log " + game.GameLogFileName.string());
