@@ -32,12 +32,13 @@ void DrainFloor(Game& game, GameSide& side, int elapsed) {
 void RecoverBench(GameSide& side, int elapsed) {
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
-    if (man.Id == 0 || side.OnCourt(man.Id)) continue;
+    if (man.Id == 0) continue;
     GameStat* line = side.StatOf(man);
     if (line == nullptr) continue;
-    if (line->Energy < man.Endurance && line->Energy < kMaxRecoveredEnergy) {
-      line->Energy = std::min(CInt(line->Energy + 2.5 * elapsed), kMaxRecoveredEnergy);
-    }
+    // Most of the bench is rested: the cheap test comes before the floor's.
+    if (line->Energy >= man.Endurance || line->Energy >= kMaxRecoveredEnergy) continue;
+    if (side.OnCourt(man.Id)) continue;
+    line->Energy = std::min(CInt(line->Energy + 2.5 * elapsed), kMaxRecoveredEnergy);
   }
 }
 
@@ -45,6 +46,8 @@ void RecoverBench(GameSide& side, int elapsed) {
 
 void ApplyElapsedTime(Game& game) {
   const int elapsed = game.LastClock - game.Clock;
+  // No time gone: every sum below would add nothing.
+  if (elapsed == 0) return;
   for (GameSide& side : game.sides) side.Team().SecondsPlayed += 5 * elapsed;
   for (GameSide& side : game.sides) DrainFloor(game, side, elapsed);
   for (GameSide& side : game.sides) RecoverBench(side, elapsed);

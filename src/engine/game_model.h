@@ -229,6 +229,11 @@ struct GameSide {
   const PlayerTexts& TextsOf(const GamePlayer& man) const { return Texts[RosterIndexOf(man)]; }
   // The short name of the man in a floor slot.
   const std::string& CourtName(int slot) const { return TextsOf(Court[slot]).AbbrName; }
+  // True when no floor slot holds a blank record.
+  bool FloorFull() const {
+    return (Court[1].Id != 0) & (Court[2].Id != 0) & (Court[3].Id != 0) & (Court[4].Id != 0) &
+           (Court[5].Id != 0);
+  }
   bool OnCourt(int id) const {
     return Court[1].Id == id || Court[2].Id == id || Court[3].Id == id || Court[4].Id == id ||
            Court[5].Id == id;

@@ -121,21 +121,6 @@ void BringBallUp(Game& game) {
   }
 }
 
-int DefenseRating(const Game& game, const GamePlayer& d, int distance) {
-  const double o = game.Openness;
-  double rating;
-  if (distance < 7) {
-    rating = d.Strength * 0.5 + d.PostDefense * 1.5 + d.Quickness * 0.5 - o / 4;
-  } else if (distance <= 12) {
-    rating = d.PostDefense * 0.75 + d.PerrDefense * 0.75 + d.Quickness - o / 3;
-  } else if (distance <= 19) {
-    rating = d.PerrDefense * 1.6 + d.Quickness - o / 2;
-  } else {
-    rating = d.Quickness * 0.9 + d.PerrDefense * 1.45 - o / 2;
-  }
-  return Int(rating);
-}
-
 int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
   Rng& rng = *game.rng;
   const Side defSide = game.DefenseSide();

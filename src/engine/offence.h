@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/game_model.h"
+#include "platform/numeric.h"
 
 namespace courtmere {
 
@@ -15,8 +16,22 @@ void InboundBall(Game& game);
 // handler, and takes seconds.
 void BringBallUp(Game& game);
 
-// The pressure of D at `distance` feet, with the current Openness.
-int DefenseRating(const Game& game, const GamePlayer& d, int distance);
+// The pressure of D at `distance` feet, with the current Openness. Inline:
+// the dribble loop asks for it on every step.
+inline int DefenseRating(const Game& game, const GamePlayer& d, int distance) {
+  const double o = game.Openness;
+  double rating;
+  if (distance < 7) {
+    rating = d.Strength * 0.5 + d.PostDefense * 1.5 + d.Quickness * 0.5 - o / 4;
+  } else if (distance <= 12) {
+    rating = d.PostDefense * 0.75 + d.PerrDefense * 0.75 + d.Quickness - o / 3;
+  } else if (distance <= 19) {
+    rating = d.PerrDefense * 1.6 + d.Quickness - o / 2;
+  } else {
+    rating = d.Quickness * 0.9 + d.PerrDefense * 1.45 - o / 2;
+  }
+  return Int(rating);
+}
 
 // One dribble drive of O against D from game.Distance. The result: above 0
 // the new distance, 0 fouled, -1 lost dead, -2 stolen (also left in

@@ -152,7 +152,9 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
     }
     if (game.Live()) ShowOnScreen(game, text, kind, name, side);
   }
-  if (kind != PlayKind::Foul) FillEmptySlots(game);
+  if (kind != PlayKind::Foul && !(game.Home().FloorFull() && game.Away().FloorFull())) {
+    FillEmptySlots(game);
+  }
 }
 
 void ResetPeriodLines(Game& game) {
