@@ -6,28 +6,28 @@
 
 namespace courtmere {
 
-void BindValue(SQLite::Statement& stmt, int index, std::nullptr_t) {
-  stmt.bind(index);
+void BindValue(Statement& stmt, int index, std::nullptr_t) {
+  stmt.BindNull(index);
 }
-void BindValue(SQLite::Statement& stmt, int index, int value) {
-  stmt.bind(index, value);
+void BindValue(Statement& stmt, int index, int value) {
+  stmt.Bind(index, static_cast<int64_t>(value));
 }
-void BindValue(SQLite::Statement& stmt, int index, int64_t value) {
-  stmt.bind(index, value);
+void BindValue(Statement& stmt, int index, int64_t value) {
+  stmt.Bind(index, value);
 }
-void BindValue(SQLite::Statement& stmt, int index, double value) {
-  stmt.bind(index, value);
+void BindValue(Statement& stmt, int index, double value) {
+  stmt.Bind(index, value);
 }
-void BindValue(SQLite::Statement& stmt, int index, std::string_view value) {
-  stmt.bind(index, std::string(value));
+void BindValue(Statement& stmt, int index, std::string_view value) {
+  stmt.Bind(index, value);
 }
-void BindValue(SQLite::Statement& stmt, int index, const std::string& value) {
-  stmt.bind(index, value);
+void BindValue(Statement& stmt, int index, const std::string& value) {
+  stmt.Bind(index, std::string_view(value));
 }
-void BindValue(SQLite::Statement& stmt, int index, const char* value) {
-  stmt.bind(index, value);
+void BindValue(Statement& stmt, int index, const char* value) {
+  stmt.Bind(index, std::string_view(value));
 }
-void BindValue(SQLite::Statement& stmt, int index, const Value& value) {
+void BindValue(Statement& stmt, int index, const Value& value) {
   std::visit([&](const auto& v) { BindValue(stmt, index, v); }, value);
 }
 
@@ -45,7 +45,7 @@ void ConfigureSqliteOnce() {
 // ---------------------------------------------------------------------------
 // Rows
 
-Rows::Rows(SQLite::Statement* stmt, std::unique_ptr<SQLite::Statement> owned, bool* inUse)
+Rows::Rows(Statement* stmt, std::unique_ptr<Statement> owned, bool* inUse)
     : stmt_(stmt), owned_(std::move(owned)), inUse_(inUse) {}
 
 Rows::Rows(Rows&& other) noexcept
@@ -56,83 +56,73 @@ Rows::Rows(Rows&& other) noexcept
 
 Rows::~Rows() {
   if (stmt_ == nullptr) return;
-  try {
-    stmt_->reset();
-    stmt_->clearBindings();
-  } catch (...) {
-    // A failed reset leaves an error code on a statement that is reset again
-    // before its next use; nothing is lost.
-  }
+  stmt_->Reset();
   if (inUse_ != nullptr) *inUse_ = false;
 }
 
 bool Rows::Next() {
-  return stmt_->executeStep();
+  return stmt_->Step();
 }
 
 int Rows::Int(int col) const {
-  return stmt_->getColumn(col).getInt();
+  return stmt_->Int(col);
 }
 int64_t Rows::Int64(int col) const {
-  return stmt_->getColumn(col).getInt64();
+  return stmt_->Int64(col);
 }
 double Rows::Double(int col) const {
-  return stmt_->getColumn(col).getDouble();
+  return stmt_->Double(col);
 }
 std::string Rows::Text(int col) const {
-  return stmt_->getColumn(col).getString();
+  return std::string(stmt_->Text(col));
 }
 std::string_view Rows::TextView(int col) const {
-  const SQLite::Column column = stmt_->getColumn(col);
-  // The text first, then its length: reading the text may convert the value.
-  const char* text = column.getText("");
-  return {text, static_cast<size_t>(column.getBytes())};
+  return stmt_->Text(col);
 }
 void Rows::TextInto(int col, std::string& out) const {
-  out.assign(TextView(col));
+  out.assign(stmt_->Text(col));
 }
 bool Rows::IsNull(int col) const {
-  return stmt_->isColumnNull(col);
+  return stmt_->IsNull(col);
 }
 
 Value Rows::Get(int col) const {
-  SQLite::Column c = stmt_->getColumn(col);
-  switch (c.getType()) {
+  switch (stmt_->Type(col)) {
     case SQLITE_INTEGER:
-      return c.getInt64();
+      return stmt_->Int64(col);
     case SQLITE_FLOAT:
-      return c.getDouble();
+      return stmt_->Double(col);
     case SQLITE_NULL:
       return nullptr;
     default:
-      return c.getString();
+      return Text(col);
   }
 }
 
 int Rows::Int(const char* name) const {
-  return stmt_->getColumn(name).getInt();
+  return Int(stmt_->ColumnIndex(name));
 }
 int64_t Rows::Int64(const char* name) const {
-  return stmt_->getColumn(name).getInt64();
+  return Int64(stmt_->ColumnIndex(name));
 }
 double Rows::Double(const char* name) const {
-  return stmt_->getColumn(name).getDouble();
+  return Double(stmt_->ColumnIndex(name));
 }
 std::string Rows::Text(const char* name) const {
-  return stmt_->getColumn(name).getString();
+  return Text(stmt_->ColumnIndex(name));
 }
 bool Rows::IsNull(const char* name) const {
-  return stmt_->getColumn(name).isNull();
+  return IsNull(stmt_->ColumnIndex(name));
 }
 Value Rows::Get(const char* name) const {
-  return Get(stmt_->getColumnIndex(name));
+  return Get(stmt_->ColumnIndex(name));
 }
 
 int Rows::ColumnCount() const {
-  return stmt_->getColumnCount();
+  return stmt_->ColumnCount();
 }
 std::string Rows::ColumnName(int col) const {
-  return stmt_->getColumnName(col);
+  return stmt_->ColumnName(col);
 }
 
 // ---------------------------------------------------------------------------
@@ -180,14 +170,14 @@ Store::Cached Store::Acquire(std::string_view sql) {
   auto it = cache_.find(sql);
   if (it == cache_.end()) {
     Entry entry;
-    entry.stmt = std::make_unique<SQLite::Statement>(db_, std::string(sql));
+    entry.stmt = std::make_unique<Statement>(db_.getHandle(), sql);
     it = cache_.emplace(std::string(sql), std::move(entry)).first;
   }
   Entry& entry = it->second;
   if (entry.inUse) {
     // The cached statement is still being read by an outer reader.
-    auto owned = std::make_unique<SQLite::Statement>(db_, std::string(sql));
-    SQLite::Statement* raw = owned.get();
+    auto owned = std::make_unique<Statement>(db_.getHandle(), sql);
+    Statement* raw = owned.get();
     return {raw, std::move(owned), nullptr};
   }
   entry.inUse = true;
@@ -196,7 +186,7 @@ Store::Cached Store::Acquire(std::string_view sql) {
 
 int Store::Run(Cached& c) {
   Rows guard(c.stmt, std::move(c.owned), c.inUse);  // resets and releases on exit
-  c.stmt->exec();
+  c.stmt->Run();
   return db_.getChanges();
 }
 

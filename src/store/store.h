@@ -13,7 +13,6 @@
 #pragma once
 
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
 
 #include <cstdint>
 #include <filesystem>
@@ -28,31 +27,33 @@
 #include <variant>
 #include <vector>
 
+#include "store/statement.h"
+
 namespace courtmere {
 
 // A value for a column: NULL, an integer, a float or a text.
 using Value = std::variant<std::nullptr_t, int64_t, double, std::string>;
 
 // Binds a C++ value to a statement parameter (1-based).
-void BindValue(SQLite::Statement& stmt, int index, std::nullptr_t);
-void BindValue(SQLite::Statement& stmt, int index, int value);
-void BindValue(SQLite::Statement& stmt, int index, int64_t value);
-void BindValue(SQLite::Statement& stmt, int index, double value);
-void BindValue(SQLite::Statement& stmt, int index, std::string_view value);
-void BindValue(SQLite::Statement& stmt, int index, const std::string& value);
-void BindValue(SQLite::Statement& stmt, int index, const char* value);
-void BindValue(SQLite::Statement& stmt, int index, const Value& value);
+void BindValue(Statement& stmt, int index, std::nullptr_t);
+void BindValue(Statement& stmt, int index, int value);
+void BindValue(Statement& stmt, int index, int64_t value);
+void BindValue(Statement& stmt, int index, double value);
+void BindValue(Statement& stmt, int index, std::string_view value);
+void BindValue(Statement& stmt, int index, const std::string& value);
+void BindValue(Statement& stmt, int index, const char* value);
+void BindValue(Statement& stmt, int index, const Value& value);
 
-// A forward-only reader over a query's rows. Columns are read by position or
-// by name; a NULL reads as 0, 0.0 or an empty text. The statement goes back to
-// the store's cache when the reader is destroyed.
 // The settings SQLite takes before its first use; call before opening any
 // database file. Runs once.
 void ConfigureSqliteOnce();
 
+// A forward-only reader over a query's rows. Columns are read by position or
+// by name; a NULL reads as 0, 0.0 or an empty text. The statement goes back to
+// the store's cache when the reader is destroyed.
 class Rows {
  public:
-  Rows(SQLite::Statement* stmt, std::unique_ptr<SQLite::Statement> owned, bool* inUse);
+  Rows(Statement* stmt, std::unique_ptr<Statement> owned, bool* inUse);
   Rows(Rows&& other) noexcept;
   Rows& operator=(Rows&&) = delete;
   Rows(const Rows&) = delete;
@@ -83,8 +84,8 @@ class Rows {
   std::string ColumnName(int col) const;
 
  private:
-  SQLite::Statement* stmt_;
-  std::unique_ptr<SQLite::Statement> owned_;
+  Statement* stmt_;
+  std::unique_ptr<Statement> owned_;
   bool* inUse_;
 };
 
@@ -173,14 +174,14 @@ class Store {
 
  private:
   struct Entry {
-    std::unique_ptr<SQLite::Statement> stmt;
+    std::unique_ptr<Statement> stmt;
     bool inUse = false;
   };
   // A statement ready for binding: the cached one, or a private one when the
   // cached statement is still being read by an outer Rows.
   struct Cached {
-    SQLite::Statement* stmt;
-    std::unique_ptr<SQLite::Statement> owned;
+    Statement* stmt;
+    std::unique_ptr<Statement> owned;
     bool* inUse;
   };
 
@@ -188,7 +189,7 @@ class Store {
   int Run(Cached& c);
 
   template <class... Args>
-  static void BindAll(SQLite::Statement& stmt, const Args&... args) {
+  static void BindAll(Statement& stmt, const Args&... args) {
     int index = 0;
     (BindValue(stmt, ++index, args), ...);
   }
