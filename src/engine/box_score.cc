@@ -4,8 +4,8 @@
 
 #include "engine/engine_error.h"
 #include "people/player.h"
-#include "platform/fresh_file.h"
 #include "platform/numeric.h"
+#include "platform/whole_file.h"
 
 namespace courtmere {
 
@@ -102,15 +102,12 @@ std::vector<std::string> FormatBoxScore(const Game& game) {
 }
 
 void WriteBoxScore(const Game& game) {
-  RemoveOldFile(game.BoxFileName);
-  std::ofstream out(game.BoxFileName, std::ios::binary | std::ios::trunc);
-  if (!out) throw EngineError("cannot write the box score " + game.BoxFileName.string());
   std::string text;
   for (const std::string& line : FormatBoxScore(game)) {
     text += line;
     text += '\n';
   }
-  out.write(text.data(), static_cast<std::streamsize>(text.size()));
+  WriteWholeFile(game.BoxFileName, text);
 }
 
 std::array<BoxGrid, 2> LoadBoxGrids(const std::filesystem::path& file) {

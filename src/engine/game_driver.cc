@@ -434,8 +434,11 @@ void StartGame(Game& game, int live) {
     game.LogCount = 0;
     if (game.Live()) game.screen->ShowFinal(game);
   } catch (const std::exception& error) {
-    // The periods played so far stay in the log.
-    FinishGameLog(game);
+    // The periods played so far stay in the log, if it can be written.
+    try {
+      FinishGameLog(game);
+    } catch (const std::exception&) {
+    }
     const int code = dynamic_cast<const EngineError*>(&error) != nullptr
                          ? static_cast<const EngineError&>(error).Code()
                          : 0;

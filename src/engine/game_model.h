@@ -16,7 +16,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -335,9 +334,10 @@ struct Game {
   std::filesystem::path BoxFileName;
   std::filesystem::path GameLogFileName;  // empty: no log
   bool WriteLog = false;
-  // The log file, open from the game's start to its end, and the blocks of
-  // the periods played: the file gets them in one write when the game ends.
-  std::ofstream GameLogOut;
+  // The log's text so far (its heading and the blocks of the periods
+  // played), and whether it is still to be written: the file gets it in one
+  // write when the game ends, or stops.
+  bool GameLogPending = false;
   std::string GameLogText;
 
   GameLeaders Leaders;

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <fstream>
 
 #include "engine/engine_error.h"
 #include "engine/live_screen.h"
 #include "engine/substitution.h"
-#include "platform/fresh_file.h"
+#include "platform/whole_file.h"
 
 namespace courtmere {
 
@@ -162,14 +161,8 @@ void ResetPeriodLines(Game& game) {
 }
 
 void StartGameLog(Game& game) {
+  game.GameLogPending = game.WriteLog;
   if (!game.WriteLog) return;
-  game.GameLogOut.close();
-  game.GameLogOut.clear();
-  RemoveOldFile(game.GameLogFileName);
-  game.GameLogOut.open(game.GameLogFileName, std::ios::binary | std::ios::trunc);
-  if (!game.GameLogOut) {
-    throw EngineError("cannot create the game log " + game.GameLogFileName.string());
-  }
   std::string& text = game.GameLogText;
   text.clear();
   text += game.Away().Team().TeamName;
@@ -201,10 +194,9 @@ void AppendPeriodLog(Game& game) {
 }
 
 void FinishGameLog(Game& game) {
-  if (!game.GameLogOut.is_open()) return;
-  game.GameLogOut.write(game.GameLogText.data(),
-                        static_cast<std::streamsize>(game.GameLogText.size()));
-  game.GameLogOut.close();
+  if (!game.GameLogPending) return;
+  game.GameLogPending = false;
+  WriteWholeFile(game.GameLogFileName, game.GameLogText);
   game.GameLogText.clear();
 }
 

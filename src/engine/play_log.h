@@ -42,9 +42,9 @@ void FormatLogLineInto(std::string& line, const Game& game, PlayKind kind, std::
 // serves again.
 std::string& NewLogLine(Game& game);
 
-// The game log file: created at the start of a game with its heading, given
-// one block per period that has lines, and written out at the end of the
-// game (or of what was played of it).
+// The game log: its heading at the start of a game, one block per period
+// that has lines, and the file written whole at the end of the game (or of
+// what was played of it).
 void StartGameLog(Game& game);
 void AppendPeriodLog(Game& game);
 void FinishGameLog(Game& game);
