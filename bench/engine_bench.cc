@@ -35,7 +35,10 @@ class EngineWorld {
     std::filesystem::remove_all(folder_, ignored);
   }
 
-  void Run(benchmark::State& state, bool files) {
+  // In clock mode, as a dynasty plays, the generator takes the clock now
+  // and then; in fixed mode only its counter.
+  void Run(benchmark::State& state, bool files, bool clockMode = false) {
+    session_.rng = clockMode ? Rng() : Rng(20011);
     Store::Transaction tx(session_.Db());
     Game game(session_);
     DayResults day;
@@ -75,6 +78,11 @@ void BM_GameWithoutFiles(benchmark::State& state) {
   World().Run(state, false);
 }
 BENCHMARK(BM_GameWithoutFiles)->Unit(benchmark::kMicrosecond);
+
+void BM_GameWithoutFilesClockMode(benchmark::State& state) {
+  World().Run(state, false, true);
+}
+BENCHMARK(BM_GameWithoutFilesClockMode)->Unit(benchmark::kMicrosecond);
 
 void BM_GameWithBoxScoreAndLog(benchmark::State& state) {
   World().Run(state, true);
