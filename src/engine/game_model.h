@@ -167,6 +167,8 @@ struct GameSide {
   int RosterCount = 0;
   std::array<GameStat, kTeamLine + 1> Stats{};
   std::array<int, kDepthEntries + 1> Depth{};
+  // The remembered answers of DepthStatIndex, a cache only.
+  mutable std::array<int, kDepthEntries + 1> DepthLine{};
   std::array<GamePlayer, 6> Court{};
   std::array<GamePlayer, kBenchPlaces + 1> Bench{};
   // The reserve queue: index 0 is its empty head place, reserves from 1; the
@@ -218,6 +220,18 @@ struct GameSide {
   }
   const GameStat* StatOf(const GamePlayer& man) const {
     return const_cast<GameSide*>(this)->StatOf(man);
+  }
+  // The index (1 to 13) of the statistics line of depth-chart entry
+  // `entry`'s man; 0 when the entry is empty or he has no line. Remembered
+  // per entry and checked on every call, so the possession loop does not
+  // search; a stale entry is searched again.
+  int DepthStatIndex(int entry) const {
+    const int id = Depth[entry];
+    if (id == 0) return 0;
+    int& known = DepthLine[entry];
+    // Stats[0] is never a player's line: its Id stays 0.
+    if (Stats[known].Id != id) known = FindStatIndex(id);
+    return known;
   }
   // The roster record with that Id, or null.
   const GamePlayer* FindRoster(int id) const;

@@ -100,7 +100,7 @@ int DepthCandidate(const Game& game, int entry, Side side, int minEnergy) {
   const int id = team.Depth[entry];
   if (id == 0 || team.OnCourt(id)) return 0;
   // A chart Id who is not in the roster has a blank line: no energy, no fouls.
-  const int index = team.FindStatIndex(id);
+  const int index = team.DepthStatIndex(entry);
   const GameStat* line = index != 0 ? &team.Stats[index] : nullptr;
   const int energy = line != nullptr ? line->Energy : 0;
   const int fouls = line != nullptr ? line->Fouls : 0;
@@ -160,7 +160,8 @@ void RotatePlayer(Game& game, Side side, int slot, const FloorCheckLine& line) {
   GameSide& team = game.SideOf(side);
   const int starterId = team.Depth[slot];
   if (team.Court[slot].Id != starterId) {
-    const GameStat* starter = team.FindStat(starterId);
+    const int index = team.DepthStatIndex(slot);
+    const GameStat* starter = index != 0 ? &team.Stats[index] : nullptr;
     const int energy = starter != nullptr ? starter->Energy : 0;
     const int fouls = starter != nullptr ? starter->Fouls : 0;
     if (energy > line.MinEnergy + line.ReturnMargin && fouls < line.MaxFouls) {
