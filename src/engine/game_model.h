@@ -21,6 +21,7 @@
 #include <string_view>
 #include <vector>
 
+#include "people/skill_ratings.h"
 #include "platform/rng.h"
 
 namespace courtmere {
@@ -44,34 +45,12 @@ const char* SubPatternText(SubPattern pattern);
 // One player as the game sees him: numbers only, so that the records the
 // floor, bench and reserve copy on every substitution are plain values. His
 // texts stand beside the roster (`GameSide::Texts`).
-struct GamePlayer {
+struct GamePlayer : SkillRatings {
   int Id = 0;  // 0 in a floor slot: the slot is empty
   int PlayerPosition = 0;
   int AvoidInjury = 0;
   int TimeInjured = 0;
   int Intelligence = 0;
-  int Jumpshot = 0;
-  int InScoring = 0;
-  int Range = 0;
-  int ThreePoint = 0;
-  int FreeThrow = 0;
-  int PerrDefense = 0;
-  int PostDefense = 0;
-  int DefReb = 0;
-  int OffReb = 0;
-  int ShotBlock = 0;
-  int Steal = 0;
-  int OffRebounding = 0;
-  int DefRebounding = 0;
-  int Handling = 0;
-  int OffAware = 0;
-  int DefAware = 0;
-  int Passing = 0;
-  int Jumping = 0;
-  int Quickness = 0;
-  int Endurance = 0;
-  int Strength = 0;
-  int Reach = 0;
   SubPattern Pattern = SubPattern::Normal;
   // Where his roster record, texts and statistics line stand in his side's
   // arrays (0: none). A shortcut for the search by Id; what it finds is the

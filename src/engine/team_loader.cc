@@ -17,22 +17,23 @@ constexpr const char* kScrubChart =
     "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
     "OffenseType, Defense, Press, TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?";
 
-// The player columns in the order ReadPlayer reads them; the background
-// table has no substitution pattern.
-#define COURTMERE_PLAYER_COLUMNS                                                                \
-  "Id, Name, AbbrName, PlayerYear, Team, PlayerPosition, AvoidInjury, Health, TimeInjured, "    \
-  "Intelligence, Jumpshot, InScoring, Range, ThreePoint, FreeThrow, PerrDefense, PostDefense, " \
-  "DefReb, OffReb, ShotBlock, Steal, OffRebounding, DefRebounding, Handling, OffAware, "        \
-  "DefAware, Passing, Jumping, Quickness, Endurance, Strength, Reach"
+// The queries of the players who dress, their columns in the order
+// ReadPlayer reads them; the background table has no substitution pattern.
+std::string PlayerQuery(std::string_view pattern, std::string_view fromWhere) {
+  std::string sql =
+      "SELECT Id, Name, AbbrName, PlayerYear, Team, PlayerPosition, AvoidInjury, Health, "
+      "TimeInjured, Intelligence";
+  for (const SkillColumn& skill : kSkillColumns) (sql += ", ") += skill.name;
+  (((sql += ", ") += pattern) += " FROM ") += fromWhere;
+  return sql;
+}
 
-constexpr const char* kPlayers =
-    "SELECT " COURTMERE_PLAYER_COLUMNS
-    ", SubPattern FROM Player WHERE Team = ? AND Inactive = 0 AND Suspended = 0 AND "
-    "TimeInjured = 0 AND Redshirt <> 1 ORDER BY Id";
-constexpr const char* kScrubPlayers = "SELECT " COURTMERE_PLAYER_COLUMNS
-                                      ", '' FROM ScrubPlayer WHERE Team = ? AND Inactive = 0 "
-                                      "AND TimeInjured = 0 ORDER BY Id";
-#undef COURTMERE_PLAYER_COLUMNS
+const std::string kPlayers =
+    PlayerQuery("SubPattern",
+                "Player WHERE Team = ? AND Inactive = 0 AND Suspended = 0 AND TimeInjured = 0 AND "
+                "Redshirt <> 1 ORDER BY Id");
+const std::string kScrubPlayers = PlayerQuery(
+    "''", "ScrubPlayer WHERE Team = ? AND Inactive = 0 AND TimeInjured = 0 ORDER BY Id");
 
 // The side's offence and defence coach (by their roles) and its trainer;
 // NULL where the school has none.
@@ -65,13 +66,8 @@ void ReadPlayer(Rows& rows, GamePlayer& p, PlayerTexts& texts) {
   rows.TextInto(c++, texts.Health);
   p.TimeInjured = 0;  // a player who dresses is not hurt
   ++c;
-  for (int* field :
-       {&p.Intelligence,  &p.Jumpshot,      &p.InScoring, &p.Range,    &p.ThreePoint, &p.FreeThrow,
-        &p.PerrDefense,   &p.PostDefense,   &p.DefReb,    &p.OffReb,   &p.ShotBlock,  &p.Steal,
-        &p.OffRebounding, &p.DefRebounding, &p.Handling,  &p.OffAware, &p.DefAware,   &p.Passing,
-        &p.Jumping,       &p.Quickness,     &p.Endurance, &p.Strength, &p.Reach}) {
-    *field = rows.Int(c++);
-  }
+  p.Intelligence = rows.Int(c++);
+  for (const SkillColumn& skill : kSkillColumns) p.*skill.field = rows.Int(c++);
   p.Pattern = ParseSubPattern(rows.TextView(c));
 }
 
@@ -124,8 +120,8 @@ void LoadRoster(Game& game, Side side) {
   GameSide& team = game.SideOf(side);
   Store& store = game.session->Db();
   team.RosterCount = 0;
-  for (const char* sql : {kPlayers, kScrubPlayers}) {
-    Rows rows = store.Query(sql, team.School);
+  for (const std::string* sql : {&kPlayers, &kScrubPlayers}) {
+    Rows rows = store.Query(*sql, team.School);
     // Design decision: a team with more eligible players than the game has
     // places dresses the first 12 in table order; the others sit the game out.
     while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {

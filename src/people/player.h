@@ -11,6 +11,8 @@
 
 #include <string>
 
+#include "people/skill_ratings.h"
+
 namespace courtmere {
 
 // Positions: 1 PG, 2 SG, 3 SF, 4 PF, 5 C.
@@ -18,7 +20,7 @@ enum Position : int { kPG = 1, kSG = 2, kSF = 3, kPF = 4, kC = 5 };
 
 inline constexpr const char* kGood = "Good";
 
-struct Player {
+struct Player : SkillRatings {
   int Id = 0;
   std::string Name;
   std::string AbbrName;
@@ -37,28 +39,6 @@ struct Player {
   int NBAFlag = 0;
   int Homesick = 0;
   int PlayWinner = 0;
-  int Jumpshot = 0;
-  int InScoring = 0;
-  int Range = 0;
-  int ThreePoint = 0;
-  int FreeThrow = 0;
-  int PerrDefense = 0;
-  int PostDefense = 0;
-  int DefReb = 0;
-  int OffReb = 0;
-  int ShotBlock = 0;
-  int Steal = 0;
-  int OffRebounding = 0;
-  int DefRebounding = 0;
-  int Handling = 0;
-  int OffAware = 0;
-  int DefAware = 0;
-  int Passing = 0;
-  int Jumping = 0;
-  int Quickness = 0;
-  int Endurance = 0;
-  int Strength = 0;
-  int Reach = 0;
   std::string AthleticGrade;
   std::string ScoreGrade;
   std::string ShootingGrade;

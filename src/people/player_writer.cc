@@ -1,5 +1,7 @@
 #include "people/player_writer.h"
 
+#include <vector>
+
 #include "store/store.h"
 
 namespace courtmere {
@@ -10,100 +12,67 @@ int64_t I(int v) {
   return v;
 }
 
+// The rating columns, which both player tables have.
+void AddSkills(std::vector<Store::Column>& columns, const SkillRatings& ratings) {
+  for (const SkillColumn& skill : kSkillColumns) {
+    columns.emplace_back(skill.name, I(ratings.*skill.field));
+  }
+}
+
 }  // namespace
 
 void AddPlayer(Store& store, const Player& p) {
-  store.Append("Player", {{"Id", I(p.Id)},
-                          {"Name", p.Name},
-                          {"AbbrName", p.AbbrName},
-                          {"PlayerYear", p.PlayerYear},
-                          {"HomeTown", p.HomeTown},
-                          {"HighSchool", p.HighSchool},
-                          {"Team", p.Team},
-                          {"Height", p.Height},
-                          {"PlayerPosition", I(p.PlayerPosition)},
-                          {"AvoidInjury", I(p.AvoidInjury)},
-                          {"Health", p.Health},
-                          {"TimeInjured", I(p.TimeInjured)},
-                          {"Potential", I(p.Potential)},
-                          {"Intelligence", I(p.Intelligence)},
-                          {"GPA", p.GPA},
-                          {"NBAFlag", I(p.NBAFlag)},
-                          {"Homesick", I(p.Homesick)},
-                          {"PlayWinner", I(p.PlayWinner)},
-                          {"Jumpshot", I(p.Jumpshot)},
-                          {"InScoring", I(p.InScoring)},
-                          {"Range", I(p.Range)},
-                          {"ThreePoint", I(p.ThreePoint)},
-                          {"FreeThrow", I(p.FreeThrow)},
-                          {"PerrDefense", I(p.PerrDefense)},
-                          {"PostDefense", I(p.PostDefense)},
-                          {"DefReb", I(p.DefReb)},
-                          {"OffReb", I(p.OffReb)},
-                          {"ShotBlock", I(p.ShotBlock)},
-                          {"Steal", I(p.Steal)},
-                          {"OffRebounding", I(p.OffRebounding)},
-                          {"DefRebounding", I(p.DefRebounding)},
-                          {"Handling", I(p.Handling)},
-                          {"OffAware", I(p.OffAware)},
-                          {"DefAware", I(p.DefAware)},
-                          {"Passing", I(p.Passing)},
-                          {"Jumping", I(p.Jumping)},
-                          {"Quickness", I(p.Quickness)},
-                          {"Endurance", I(p.Endurance)},
-                          {"Strength", I(p.Strength)},
-                          {"Reach", I(p.Reach)},
-                          {"AthleticGrade", p.AthleticGrade},
-                          {"ScoreGrade", p.ScoreGrade},
-                          {"ShootingGrade", p.ShootingGrade},
-                          {"OutsideShootGrade", p.OutsideShootGrade},
-                          {"ReboundGrade", p.ReboundGrade},
-                          {"PerrDefenseGrade", p.PerrDefenseGrade},
-                          {"PostDefenseGrade", p.PostDefenseGrade},
-                          {"HandlingGrade", p.HandlingGrade},
-                          {"PassingGrade", p.PassingGrade},
-                          {"PotentialGrade", p.PotentialGrade},
-                          {"Overall", p.Overall},
-                          {"ScoutOverall", p.ScoutOverall}});
+  std::vector<Store::Column> columns = {{"Id", I(p.Id)},
+                                        {"Name", p.Name},
+                                        {"AbbrName", p.AbbrName},
+                                        {"PlayerYear", p.PlayerYear},
+                                        {"HomeTown", p.HomeTown},
+                                        {"HighSchool", p.HighSchool},
+                                        {"Team", p.Team},
+                                        {"Height", p.Height},
+                                        {"PlayerPosition", I(p.PlayerPosition)},
+                                        {"AvoidInjury", I(p.AvoidInjury)},
+                                        {"Health", p.Health},
+                                        {"TimeInjured", I(p.TimeInjured)},
+                                        {"Potential", I(p.Potential)},
+                                        {"Intelligence", I(p.Intelligence)},
+                                        {"GPA", p.GPA},
+                                        {"NBAFlag", I(p.NBAFlag)},
+                                        {"Homesick", I(p.Homesick)},
+                                        {"PlayWinner", I(p.PlayWinner)},
+                                        {"AthleticGrade", p.AthleticGrade},
+                                        {"ScoreGrade", p.ScoreGrade},
+                                        {"ShootingGrade", p.ShootingGrade},
+                                        {"OutsideShootGrade", p.OutsideShootGrade},
+                                        {"ReboundGrade", p.ReboundGrade},
+                                        {"PerrDefenseGrade", p.PerrDefenseGrade},
+                                        {"PostDefenseGrade", p.PostDefenseGrade},
+                                        {"HandlingGrade", p.HandlingGrade},
+                                        {"PassingGrade", p.PassingGrade},
+                                        {"PotentialGrade", p.PotentialGrade},
+                                        {"Overall", p.Overall},
+                                        {"ScoutOverall", p.ScoutOverall}};
+  AddSkills(columns, p);
+  store.Append("Player", columns);
 }
 
 void AddScrubPlayer(Store& store, const Player& p) {
-  store.Append("ScrubPlayer", {{"Id", I(p.Id)},
-                               {"Name", p.Name},
-                               {"AbbrName", p.AbbrName},
-                               {"Height", p.Height},
-                               {"PlayerPosition", I(p.PlayerPosition)},
-                               {"Team", p.Team},
-                               {"AvoidInjury", I(p.AvoidInjury)},
-                               {"Health", p.Health},
-                               {"TimeInjured", I(p.TimeInjured)},
-                               {"Reach", I(p.Reach)},
-                               {"PlayerYear", p.PlayerYear},
-                               {"Overall", p.Overall},
-                               {"Intelligence", I(p.Intelligence)},
-                               {"Jumpshot", I(p.Jumpshot)},
-                               {"InScoring", I(p.InScoring)},
-                               {"Range", I(p.Range)},
-                               {"ThreePoint", I(p.ThreePoint)},
-                               {"FreeThrow", I(p.FreeThrow)},
-                               {"PerrDefense", I(p.PerrDefense)},
-                               {"PostDefense", I(p.PostDefense)},
-                               {"DefReb", I(p.DefReb)},
-                               {"OffReb", I(p.OffReb)},
-                               {"ShotBlock", I(p.ShotBlock)},
-                               {"Steal", I(p.Steal)},
-                               {"OffRebounding", I(p.OffRebounding)},
-                               {"DefRebounding", I(p.DefRebounding)},
-                               {"Handling", I(p.Handling)},
-                               {"OffAware", I(p.OffAware)},
-                               {"DefAware", I(p.DefAware)},
-                               {"Passing", I(p.Passing)},
-                               {"Jumping", I(p.Jumping)},
-                               {"Quickness", I(p.Quickness)},
-                               {"Endurance", I(p.Endurance)},
-                               {"Strength", I(p.Strength)},
-                               {"Potential", I(p.Potential)},
-                               {"ScoutOverall", p.ScoutOverall}});
+  std::vector<Store::Column> columns = {{"Id", I(p.Id)},
+                                        {"Name", p.Name},
+                                        {"AbbrName", p.AbbrName},
+                                        {"Height", p.Height},
+                                        {"PlayerPosition", I(p.PlayerPosition)},
+                                        {"Team", p.Team},
+                                        {"AvoidInjury", I(p.AvoidInjury)},
+                                        {"Health", p.Health},
+                                        {"TimeInjured", I(p.TimeInjured)},
+                                        {"PlayerYear", p.PlayerYear},
+                                        {"Overall", p.Overall},
+                                        {"Intelligence", I(p.Intelligence)},
+                                        {"Potential", I(p.Potential)},
+                                        {"ScoutOverall", p.ScoutOverall}};
+  AddSkills(columns, p);
+  store.Append("ScrubPlayer", columns);
 }
 
 void AddPlayerStats(Store& store, int id) {
@@ -157,28 +126,7 @@ bool LoadPlayer(Store& store, int id, Player& p) {
   p.NBAFlag = rows.Int("NBAFlag");
   p.Homesick = rows.Int("Homesick");
   p.PlayWinner = rows.Int("PlayWinner");
-  p.Jumpshot = rows.Int("Jumpshot");
-  p.InScoring = rows.Int("InScoring");
-  p.Range = rows.Int("Range");
-  p.ThreePoint = rows.Int("ThreePoint");
-  p.FreeThrow = rows.Int("FreeThrow");
-  p.PerrDefense = rows.Int("PerrDefense");
-  p.PostDefense = rows.Int("PostDefense");
-  p.DefReb = rows.Int("DefReb");
-  p.OffReb = rows.Int("OffReb");
-  p.ShotBlock = rows.Int("ShotBlock");
-  p.Steal = rows.Int("Steal");
-  p.OffRebounding = rows.Int("OffRebounding");
-  p.DefRebounding = rows.Int("DefRebounding");
-  p.Handling = rows.Int("Handling");
-  p.OffAware = rows.Int("OffAware");
-  p.DefAware = rows.Int("DefAware");
-  p.Passing = rows.Int("Passing");
-  p.Jumping = rows.Int("Jumping");
-  p.Quickness = rows.Int("Quickness");
-  p.Endurance = rows.Int("Endurance");
-  p.Strength = rows.Int("Strength");
-  p.Reach = rows.Int("Reach");
+  for (const SkillColumn& skill : kSkillColumns) p.*skill.field = rows.Int(skill.name);
   p.AthleticGrade = rows.Text("AthleticGrade");
   p.ScoreGrade = rows.Text("ScoreGrade");
   p.ShootingGrade = rows.Text("ShootingGrade");

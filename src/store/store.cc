@@ -196,13 +196,13 @@ int Store::ExecValues(std::string_view sql, const std::vector<Value>& values) {
   return Run(c);
 }
 
-int64_t Store::Append(std::string_view table,
-                      std::initializer_list<std::pair<std::string_view, Value>> columns) {
+int64_t Store::Append(std::string_view table, const Column* columns, size_t count) {
   std::string sql = "INSERT INTO ";
   sql += table;
   sql += " (";
   std::string marks;
-  for (const auto& [name, value] : columns) {
+  for (size_t i = 0; i < count; ++i) {
+    const std::string_view name = columns[i].first;
     if (!marks.empty()) {
       sql += ", ";
       marks += ", ";
@@ -212,8 +212,7 @@ int64_t Store::Append(std::string_view table,
   }
   sql += ") VALUES (" + marks + ")";
   Cached c = Acquire(sql);
-  int index = 0;
-  for (const auto& [name, value] : columns) BindValue(*c.stmt, ++index, value);
+  for (size_t i = 0; i < count; ++i) BindValue(*c.stmt, static_cast<int>(i + 1), columns[i].second);
   Run(c);
   return db_.getLastInsertRowid();
 }

@@ -141,8 +141,13 @@ class Store {
 
   // Adds one row to a table, naming the columns it sets; the others take
   // their defaults. Returns the new row's rowid.
-  int64_t Append(std::string_view table,
-                 std::initializer_list<std::pair<std::string_view, Value>> columns);
+  using Column = std::pair<std::string_view, Value>;
+  int64_t Append(std::string_view table, std::initializer_list<Column> columns) {
+    return Append(table, columns.begin(), columns.size());
+  }
+  int64_t Append(std::string_view table, const std::vector<Column>& columns) {
+    return Append(table, columns.data(), columns.size());
+  }
 
   // Seeks a name in the pools by Id (the FName and LName tables).
   std::string FirstName(int id);
@@ -186,6 +191,7 @@ class Store {
   };
 
   Cached Acquire(std::string_view sql);
+  int64_t Append(std::string_view table, const Column* columns, size_t count);
   int Run(Cached& c);
 
   template <class... Args>
