@@ -9,6 +9,7 @@
 
 #include "../cli/exhibition_setup.h"
 #include "engine/run_engine.h"
+#include "engine/team_loader.h"
 #include "platform/scripted_ui.h"
 #include "store/blank_store.h"
 #include "store/session.h"
@@ -37,6 +38,19 @@ class EngineWorld {
 
   // In clock mode, as a dynasty plays, the generator takes the clock now
   // and then; in fixed mode only its counter.
+  // The store's part of a game alone: both teams' charts, staff and rosters.
+  void Load(benchmark::State& state) {
+    Game game(session_);
+    game.Home().School = pair_.home;
+    game.Away().School = pair_.away;
+    for (auto _ : state) {
+      for (Side side : {Side::Home, Side::Away}) LoadDepthAndTactics(game, side);
+      LoadCoachValues(game);
+      for (Side side : {Side::Home, Side::Away}) LoadRoster(game, side);
+      benchmark::DoNotOptimize(game.Home().RosterCount + game.Away().RosterCount);
+    }
+  }
+
   void Run(benchmark::State& state, bool files, bool clockMode = false) {
     session_.rng = clockMode ? Rng() : Rng(20011);
     Store::Transaction tx(session_.Db());
@@ -78,6 +92,11 @@ void BM_GameWithoutFiles(benchmark::State& state) {
   World().Run(state, false);
 }
 BENCHMARK(BM_GameWithoutFiles)->Unit(benchmark::kMicrosecond);
+
+void BM_GameLoadTeams(benchmark::State& state) {
+  World().Load(state);
+}
+BENCHMARK(BM_GameLoadTeams)->Unit(benchmark::kMicrosecond);
 
 void BM_GameWithoutFilesClockMode(benchmark::State& state) {
   World().Run(state, false, true);
