@@ -94,6 +94,17 @@ TEST_F(Rules, DepthCandidateRefusesMenWhoMayNotComeIn) {
   EXPECT_EQ(DepthCandidate(game, 8, Side::Home, 0), 999);
 }
 
+TEST_F(Rules, AChartEntryThatChangesMenIsJudgedByTheNewMansLine) {
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 106);
+  Home().Depth[6] = 108;
+  HomeLine(8).Energy = 1400;  // the new man is tired, the old one was not
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 0);
+  HomeLine(8).Energy = 1600;
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 108);
+  Home().Depth[6] = 0;
+  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 0), 0);
+}
+
 TEST_F(Rules, SubstitutionSwapsTheBenchManInAndLogsIt) {
   game.WriteLog = true;
   HomeLine(2).Energy = 1000;
