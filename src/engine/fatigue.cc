@@ -30,15 +30,18 @@ void DrainFloor(Game& game, GameSide& side, int elapsed) {
 }
 
 void RecoverBench(GameSide& side, int elapsed) {
+  const double gain = 2.5 * elapsed;
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
-    if (man.Id == 0) continue;
-    GameStat* line = side.StatOf(man);
+    GameStat* line = side.StatOf(man);  // none for an empty place
     if (line == nullptr) continue;
-    // Most of the bench is rested: the cheap test comes before the floor's.
-    if (line->Energy >= man.Endurance || line->Energy >= kMaxRecoveredEnergy) continue;
-    if (side.OnCourt(man.Id)) continue;
-    line->Energy = std::min(CInt(line->Energy + 2.5 * elapsed), kMaxRecoveredEnergy);
+    // Whether he recovers is a coin toss to the processor: the energy is
+    // chosen, not branched on.
+    const int energy = line->Energy;
+    const bool recovers =
+        (energy < man.Endurance) & (energy < kMaxRecoveredEnergy) & !side.OnCourt(man.Id);
+    const int recovered = std::min(CInt(energy + gain), kMaxRecoveredEnergy);
+    line->Energy = recovers ? recovered : energy;
   }
 }
 

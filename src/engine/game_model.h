@@ -227,8 +227,8 @@ struct GameSide {
            (Court[5].Id != 0);
   }
   bool OnCourt(int id) const {
-    return Court[1].Id == id || Court[2].Id == id || Court[3].Id == id || Court[4].Id == id ||
-           Court[5].Id == id;
+    return (Court[1].Id == id) | (Court[2].Id == id) | (Court[3].Id == id) | (Court[4].Id == id) |
+           (Court[5].Id == id);
   }
 
   // Empties rosters, lines, floor, bench, reserve and depth chart.
