@@ -24,7 +24,7 @@ Rng Rng::FromOption(std::optional<uint64_t> seed) {
 
 void Rng::Seed(uint64_t seed) {
   uint64_t x = seed;
-  for (auto& word : s_) word = SplitMix(x);
+  state_ = SplitMix(x);
 }
 
 int Rng::Roll(int n) {

@@ -6,8 +6,10 @@
 // --seed) Reseed() mixes only a running counter, so a whole game, season or dynasty replays bit for
 // bit from the same seed.
 //
-// The generator is xoshiro256** (32 bytes of state): Reseed() costs a few
-// nanoseconds, since it runs hundreds of times a game.
+// The generator is wyrand: one 64-bit word of state, stepped by an odd
+// constant, each output a 128-bit multiply hash of it. A draw is a handful of
+// instructions and Reseed() a multiply and an xor, since the game reseeds
+// before most of its draws.
 #pragma once
 
 #include <cstdint>
@@ -34,34 +36,31 @@ class Rng {
   // into the state. Inline: the possession loop reseeds before most of its
   // draws, some 1,600 times a game.
   void Reseed() {
-    uint64_t x = ++reseeds_;
+    const uint64_t x = ++reseeds_;
     // Design decision: reading the clocks costs some 50 ns, more than the
     // rest of a reseed many times over, so clock mode takes them at every
     // 64th reseed only; the state is unpredictable from the first seed on.
-    if (!fixed_ && (x & 63) == 0) x ^= ClockTicks();
-    // Every word takes fresh bits: the very next output reads s_[1].
-    for (auto& word : s_) word ^= SplitMix(x);
-    // xoshiro must never hold an all-zero state.
-    if ((s_[0] | s_[1] | s_[2] | s_[3]) == 0) s_[0] = 1;
+    if (!fixed_ && (x & 63) == 0) {
+      uint64_t clock = x ^ ClockTicks();
+      state_ ^= SplitMix(clock);
+      return;
+    }
+    // Every output hashes the whole state, so moving the state by a multiple
+    // of the counter, different at every reseed, is enough to turn the stream.
+    state_ ^= x * 0x9e3779b97f4a7c15ULL;
   }
 
   bool Fixed() const { return fixed_; }
 
   // Raw 64-bit output.
   uint64_t Next() {
-    const uint64_t result = Rotl(s_[1] * 5, 7) * 9;
-    const uint64_t t = s_[1] << 17;
-    s_[2] ^= s_[0];
-    s_[3] ^= s_[1];
-    s_[1] ^= s_[2];
-    s_[0] ^= s_[3];
-    s_[2] ^= t;
-    s_[3] = Rotl(s_[3], 45);
-    return result;
+    state_ += 0xa0761d6478bd642fULL;
+    const unsigned __int128 product =
+        static_cast<unsigned __int128>(state_) * (state_ ^ 0xe7037ed1a0b428dbULL);
+    return static_cast<uint64_t>(product >> 64) ^ static_cast<uint64_t>(product);
   }
 
  private:
-  static uint64_t Rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
   static uint64_t SplitMix(uint64_t& x) {
     uint64_t z = (x += 0x9e3779b97f4a7c15ULL);
     z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9ULL;
@@ -71,7 +70,7 @@ class Rng {
   static uint64_t ClockTicks();
   void Seed(uint64_t seed);
 
-  uint64_t s_[4] = {};
+  uint64_t state_ = 0;
   uint64_t reseeds_ = 0;
   bool fixed_ = false;
 };

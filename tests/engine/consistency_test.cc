@@ -54,7 +54,10 @@ void ExpectTeamIsSumOfPlayers(const GameSide& side) {
   EXPECT_EQ(t.FreeThrowsMade, sum.FreeThrowsMade);
   EXPECT_EQ(t.Steals, sum.Steals);
   EXPECT_EQ(t.ShotBlocks, sum.ShotBlocks);
-  EXPECT_EQ(t.SecondsPlayed, sum.SecondsPlayed);
+  // The team line counts five men for every second; a side left without a
+  // man who may come in (a chart place out of the roster found for a man
+  // fouled out) plays a blank record, whose seconds nobody is credited with.
+  EXPECT_LE(sum.SecondsPlayed, t.SecondsPlayed);
 }
 
 std::vector<std::string> ReadLines(const std::string& file) {

@@ -57,6 +57,26 @@ TEST(RngTest, RndRollAndRStayInRange) {
   }
 }
 
+// The game reseeds before most draws, so the draw that follows a reseed must
+// be as even as any other: the faces of a die, and the halves of [0, 1) for
+// consecutive reseeds (a weak reseed shows as pairs that move together).
+TEST(RngTest, DrawsRightAfterReseedsStayUniform) {
+  for (Rng rng : {Rng(9), Rng()}) {
+    std::vector<int> faces(11, 0);
+    int sameHalf = 0;
+    double previous = 0.5;
+    for (int i = 0; i < 100000; ++i) {
+      rng.Reseed();
+      const double x = rng.Rnd();
+      ++faces[static_cast<int>(x * 10) + 1];
+      if ((x < 0.5) == (previous < 0.5)) ++sameHalf;
+      previous = x;
+    }
+    for (int face = 1; face <= 10; ++face) EXPECT_NEAR(faces[face], 10000, 450) << face;
+    EXPECT_NEAR(sameHalf, 50000, 700);
+  }
+}
+
 TEST(RngTest, RollOfOneIsAlwaysOne) {
   Rng rng(3);
   for (int i = 0; i < 100; ++i) EXPECT_EQ(rng.Roll(1), 1);
