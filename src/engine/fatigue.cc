@@ -10,14 +10,20 @@ namespace {
 
 constexpr int kMaxRecoveredEnergy = 2000;
 
-void DrainFloor(Game& game, GameSide& side, int elapsed) {
-  const TempoKind tempo = side.tactics.TempoRule();
+// The five men on the floor lose energy and gain seconds; the men on the
+// bench who are not also on the floor (a chart may name a man twice) recover.
+void PassTime(Game& game, GameSide& side, int elapsed) {
+  const int drain = side.tactics.TempoRule() == TempoKind::UpBeat ? CInt(1.5 * elapsed) : elapsed;
   const PressKind press = side.tactics.PressRule();
+  // The lines of the men on the floor, as bits. Bit 0 stands for every
+  // blank record, whose seconds go to a scratch line, and for empty bench
+  // places.
+  unsigned onFloor = 1;
   for (int slot = 1; slot <= 5; ++slot) {
-    GameStat& line = game.LineOf(side, side.Court[slot]);
-    if (line.Energy >= 0) {
-      line.Energy -= tempo == TempoKind::UpBeat ? CInt(1.5 * elapsed) : elapsed;
-    }
+    const int index = side.StatIndexOf(side.Court[slot]);
+    onFloor |= 1u << index;
+    GameStat& line = index != 0 ? side.Stats[index] : game.ScratchLine();
+    if (line.Energy >= 0) line.Energy -= drain;
     if (line.Energy >= 0) {
       if (press == PressKind::FullCourt) {
         line.Energy -= elapsed;
@@ -27,21 +33,19 @@ void DrainFloor(Game& game, GameSide& side, int elapsed) {
     }
     line.SecondsPlayed += elapsed;
   }
-}
 
-void RecoverBench(GameSide& side, int elapsed) {
   const double gain = 2.5 * elapsed;
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
-    GameStat* line = side.StatOf(man);  // none for an empty place
-    if (line == nullptr) continue;
+    const int index = side.StatIndexOf(man);
+    if ((onFloor >> index) & 1u) continue;
+    GameStat& line = side.Stats[index];
     // Whether he recovers is a coin toss to the processor: the energy is
     // chosen, not branched on.
-    const int energy = line->Energy;
-    const bool recovers =
-        (energy < man.Endurance) & (energy < kMaxRecoveredEnergy) & !side.OnCourt(man.Id);
+    const int energy = line.Energy;
+    const bool recovers = (energy < man.Endurance) & (energy < kMaxRecoveredEnergy);
     const int recovered = std::min(CInt(energy + gain), kMaxRecoveredEnergy);
-    line->Energy = recovers ? recovered : energy;
+    line.Energy = recovers ? recovered : energy;
   }
 }
 
@@ -52,8 +56,7 @@ void ApplyElapsedTime(Game& game) {
   // No time gone: every sum below would add nothing.
   if (elapsed == 0) return;
   for (GameSide& side : game.sides) side.Team().SecondsPlayed += 5 * elapsed;
-  for (GameSide& side : game.sides) DrainFloor(game, side, elapsed);
-  for (GameSide& side : game.sides) RecoverBench(side, elapsed);
+  for (GameSide& side : game.sides) PassTime(game, side, elapsed);
   game.LastClock = game.Clock;
 }
 

@@ -78,7 +78,7 @@ void DeadBallChange(Game& game) {
     AddStat(game, Stat::Turnover, SideWordRole::Offense, game.BallPos);
     FlipPossession(game);
     game.TransitionEdge = 20;
-    game.Distance = Int(game.rng->Rnd() * 28 + 7);
+    game.Distance = game.rng->IntRnd(28, 7);
   } else {
     game.Distance = 35;
     PostPlay(game, "moves the ball upcourt", PlayKind::Offense);
@@ -99,7 +99,7 @@ void LiveChange(Game& game) {
     game.BallPos = guard;
   }
   game.Distance = 35;
-  const int seconds = Int(game.rng->Rnd() * 2 + 3);
+  const int seconds = game.rng->IntRnd(2, 3);
   TakeSeconds(game, game.Clock >= 5 ? seconds : 1);
   game.TransitionEdge = 10;
   PostPlay(game, "moves across the timeline", PlayKind::Offense);
@@ -277,7 +277,7 @@ void TipOff(Game& game) {
   const int p = RollDie(rng, 40);
   game.BallPos = p > 30 ? 1 : (p > 20 ? 2 : (p > 10 ? 3 : 4));
   PostPlay(game, "gathers the ball", PlayKind::Offense);
-  TakeSeconds(game, Int(rng.Rnd() * 3 + 2));
+  TakeSeconds(game, rng.IntRnd(3, 2));
   PostPlay(game, "brings it upcourt", PlayKind::Offense);
 }
 
@@ -353,7 +353,7 @@ void FoulCycle(Game& game, bool clockRunsBeforeFoul) {
     const int fouler = PickFouler(game, 35, game.DefenseSide());
     AddStat(game, Stat::Foul, SideWordRole::Defense, fouler);
     const std::string text = PlayText(game, game.Distance, PlayVariant::NonShootFoul);
-    if (clockRunsBeforeFoul) game.Clock -= Int(game.rng->Rnd() * 2 + 1);
+    if (clockRunsBeforeFoul) game.Clock -= game.rng->IntRnd(2, 1);
     PostPlayWith(game, PlayKind::Offense, [&] { return text + game.Defense().CourtName(fouler); });
     CheckSubs(game);
     if (defense.Fouls >= kBonusFouls) last = BonusFreeThrows(game);

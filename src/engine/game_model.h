@@ -53,7 +53,7 @@ struct GamePlayer : SkillRatings {
   int Intelligence = 0;
   SubPattern Pattern = SubPattern::Normal;
   // Where his roster record, texts and statistics line stand in his side's
-  // arrays (0: none). A shortcut for the search by Id; what it finds is the
+  // arrays (0: none; never above 12). A shortcut for the search by Id; what it finds is the
   // same.
   int StatIndex = 0;
 };
@@ -189,13 +189,17 @@ struct GameSide {
     const int i = FindStatIndex(id);
     return i == 0 ? nullptr : &Stats[i];
   }
-  // The line of a record: through its StatIndex when that still points at
-  // his line, by the search otherwise. The same line FindStat(man.Id) finds.
+  // The index of a record's line: through its StatIndex when that still
+  // points at his line, by the search otherwise; 0 when he has none. The
+  // same line FindStat(man.Id) finds.
+  int StatIndexOf(const GamePlayer& man) const {
+    // A blank record (Id 0) meets Stats[0], whose Id stays 0: index 0.
+    if (Stats[man.StatIndex].Id == man.Id) return man.StatIndex;
+    return FindStatIndex(man.Id);
+  }
   GameStat* StatOf(const GamePlayer& man) {
-    if (man.Id != 0 && man.StatIndex > 0 && Stats[man.StatIndex].Id == man.Id) {
-      return &Stats[man.StatIndex];
-    }
-    return FindStat(man.Id);
+    const int i = StatIndexOf(man);
+    return i == 0 ? nullptr : &Stats[i];
   }
   const GameStat* StatOf(const GamePlayer& man) const {
     return const_cast<GameSide*>(this)->StatOf(man);

@@ -13,9 +13,9 @@ namespace {
 
 // The seconds a dribble drive takes by the feet gained.
 int DribbleSeconds(Rng& rng, int footwork) {
-  if (footwork >= 9) return Int(rng.Rnd() * 3 + 3);
-  if (footwork >= 4) return Int(rng.Rnd() * 4 + 2);
-  if (footwork >= 1) return Int(rng.Rnd() * 3 + 1);
+  if (footwork >= 9) return rng.IntRnd(3, 3);
+  if (footwork >= 4) return rng.IntRnd(4, 2);
+  if (footwork >= 1) return rng.IntRnd(3, 1);
   return 0;
 }
 
@@ -59,7 +59,7 @@ void InboundBall(Game& game) {
         game.Clock -= 2;
         break;
       case TempoKind::Normal:
-        game.Clock -= Int(rng.Rnd() * 2 + 1);
+        game.Clock -= rng.IntRnd(2, 1);
         break;
       default:
         game.Clock -= 1;
@@ -75,7 +75,7 @@ void InboundBall(Game& game) {
 void BringBallUp(Game& game) {
   Rng& rng = *game.rng;
   const int prev = game.BallPos;
-  const int n = Int(rng.Rnd() * 20 + 2);
+  const int n = rng.IntRnd(20, 2);
   double def = 0;
   double off = 0;
   for (int slot = 1; slot <= 5; ++slot) {
@@ -84,26 +84,26 @@ void BringBallUp(Game& game) {
     def += (d.Quickness + d.PerrDefense + d.DefAware) / 2.0;
     off += (o.Handling + o.Passing + o.OffAware) / 2.0;
   }
-  const int r = Int(rng.Rnd() * 200 + 20);
+  const int r = rng.IntRnd(200, 20);
   const double raw = off - def - n + r;
   double v = r > 150 ? 150 : (r >= 22 ? raw : -40);
   if (r < 23 && raw < -130) v = -136;
 
   int seconds;
   if (v > 155) {
-    game.TransitionEdge = Int(rng.Rnd() * 15 + 5);
-    seconds = Int(rng.Rnd() * 2 + 3);
+    game.TransitionEdge = rng.IntRnd(15, 5);
+    seconds = rng.IntRnd(2, 3);
   } else if (v > 80) {
-    game.TransitionEdge = Int(rng.Rnd() * 8 + 1);
-    seconds = Int(rng.Rnd() * 3 + 4);
+    game.TransitionEdge = rng.IntRnd(8, 1);
+    seconds = rng.IntRnd(3, 4);
   } else if (v > -160) {
     game.TransitionEdge = 0;
-    seconds = Int(rng.Rnd() * 4 + 5);
+    seconds = rng.IntRnd(4, 5);
   } else {
     game.TransitionEdge = -1;
-    seconds = Int(rng.Rnd() * 2 + 2);
+    seconds = rng.IntRnd(2, 2);
   }
-  if (game.Clock < 15 && game.TransitionEdge >= 0) seconds = Int(rng.Rnd() * 3 + 1);
+  if (game.Clock < 15 && game.TransitionEdge >= 0) seconds = rng.IntRnd(3, 1);
   TakeSeconds(game, seconds);
 
   const int p = RollDie(rng, 100);
@@ -133,7 +133,7 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
 
   for (int i = 1; i < 50 && (move > 195 || beat > 252); ++i) {
     rng.Reseed();
-    beat = Int(rng.Rnd() * 300 + 1);
+    beat = rng.IntRnd(300, 1);
     const int noise = game.DefNoise + 1;
     const int defend = DefenseRating(game, d, game.Distance) + pressBonus;
     const int dist = game.Distance;
@@ -174,11 +174,11 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
       if (dist < 9) {
         if ((move - noise < -100 || beat * o.Handling / 100.0 <= 24) && o.OffAware + beat < 200) {
           loses = true;
-          v = Int(rng.Rnd() * 45 + 15) + d.Steal;
+          v = rng.IntRnd(45, 15) + d.Steal;
         }
       } else if ((move < -55 || beat < 3) && o.OffAware + beat < 150) {
         loses = true;
-        v = Int(rng.Rnd() * 45 + 20) + d.Steal;
+        v = rng.IntRnd(45, 20) + d.Steal;
       }
       if (loses) game.Distance = v <= 95 ? -1 : -2;
     }
@@ -225,7 +225,7 @@ int RollPass(Game& game, int d) {
   const GamePlayer& o = game.Offense().Court[game.BallPos];
   const GamePlayer& def = game.Defense().Court[game.BallPos];
   const double open = game.Openness;
-  const int b = Int(rng.Rnd() * 200 + 1);
+  const int b = rng.IntRnd(200, 1);
   double score;
   if (d > 50) {
     score = b * 0.75 + open;
@@ -246,24 +246,24 @@ int RollPass(Game& game, int d) {
 
   int result;
   if (score > 262) {
-    result = Int(rng.Rnd() * 6 + 5);
+    result = rng.IntRnd(6, 5);
   } else if (score > 225) {
-    result = Int(rng.Rnd() * 15 + 6);
+    result = rng.IntRnd(15, 6);
   } else if (score > 150) {
-    result = Int(rng.Rnd() * 13 + 9);
+    result = rng.IntRnd(13, 9);
   } else if (score > 75) {
-    result = Int(rng.Rnd() * 5 + 17);
+    result = rng.IntRnd(5, 17);
   } else if (score > -50) {
-    result = Int(rng.Rnd() * 2 + 20);
+    result = rng.IntRnd(2, 20);
   } else {
-    const int x = Int(rng.Rnd() * 35 + 20) + def.Steal;
+    const int x = rng.IntRnd(35, 20) + def.Steal;
     result = (b < 4 || x > 90) ? -1 : 0;
   }
   if (score > 50 && result >= 21) result = 20;
 
-  const double q = Int(rng.Rnd() * 100 + 5) * o.Passing / 100.0;
+  const double q = rng.IntRnd(100, 5) * o.Passing / 100.0;
   if (q < 4) {
-    const int x = Int(rng.Rnd() * 25 + 10) + def.Steal;
+    const int x = rng.IntRnd(25, 10) + def.Steal;
     result = x > 90 ? -1 : 0;
   }
   return result;
@@ -280,17 +280,17 @@ int PassBall(Game& game, int distance) {
 
   int seconds;
   if (game.ShotClock < 10) {
-    seconds = Int(rng.Rnd() * 2 + 1);
+    seconds = rng.IntRnd(2, 1);
   } else {
     switch (game.Offense().tactics.TempoRule()) {
       case TempoKind::SlowDown:
-        seconds = Int(rng.Rnd() * 2 + 3);
+        seconds = rng.IntRnd(2, 3);
         break;
       case TempoKind::Normal:
-        seconds = Int(rng.Rnd() * 2 + 2);
+        seconds = rng.IntRnd(2, 2);
         break;
       default:
-        seconds = Int(rng.Rnd() * 2 + 1);
+        seconds = rng.IntRnd(2, 1);
         break;
     }
   }

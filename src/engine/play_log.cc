@@ -136,11 +136,7 @@ std::string& NewLogLine(Game& game) {
   return line;
 }
 
-void PostPlay(Game& game, std::string_view text, PlayKind kind) {
-  if (game.UserTimeoutAsked == 1) game.UserTimeoutDue = 1;
-  game.Clock = std::max(game.Clock, 0);
-  game.ShotClock = std::max(game.ShotClock, 0);
-
+void ShowAndFill(Game& game, std::string_view text, PlayKind kind) {
   if (game.WantsText()) {
     const Side side = LineSide(game, kind);
     const std::string& name = game.SideOf(side).CourtName(game.BallPos);
@@ -151,9 +147,7 @@ void PostPlay(Game& game, std::string_view text, PlayKind kind) {
     }
     if (game.Live()) ShowOnScreen(game, text, kind, name, side);
   }
-  if (kind != PlayKind::Foul && !(game.Home().FloorFull() && game.Away().FloorFull())) {
-    FillEmptySlots(game);
-  }
+  if (NeedsFill(game, kind)) FillEmptySlots(game);
 }
 
 void ResetPeriodLines(Game& game) {

@@ -8,12 +8,28 @@
 
 namespace courtmere {
 
+// True when a line of `kind` must fill empty floor slots.
+inline bool NeedsFill(const Game& game, PlayKind kind) {
+  return kind != PlayKind::Foul && !(game.Home().FloorFull() && game.Away().FloorFull());
+}
+
+// The part of PostPlay that only some lines need: the log line, the live
+// screen, and the fill.
+void ShowAndFill(Game& game, std::string_view text, PlayKind kind);
+
 // Posts one line. Turns a pending timeout request into a due one, raises a
 // negative clock or shot clock to 0, shows the line on a watched live screen,
 // fills any empty floor slot (except after a "Foul" line, whose caller finds
 // the replacement itself) and, when a log is written, adds the log line.
 // `text` may be empty when the game wants no texts.
-void PostPlay(Game& game, std::string_view text, PlayKind kind);
+// Inline: the possession loop posts some 950 lines a game, and most of them
+// need neither text nor a fill.
+inline void PostPlay(Game& game, std::string_view text, PlayKind kind) {
+  if (game.UserTimeoutAsked == 1) game.UserTimeoutDue = 1;
+  if (game.Clock < 0) game.Clock = 0;
+  if (game.ShotClock < 0) game.ShotClock = 0;
+  if (game.WantsText() || NeedsFill(game, kind)) ShowAndFill(game, text, kind);
+}
 
 // Posts a line whose text is built only when someone will read it.
 template <class MakeText>

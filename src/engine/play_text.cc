@@ -126,7 +126,7 @@ const char* PlayTableText(PlayVariant variant, int d, int v) {
 
 std::string PlayText(Game& game, int distance, PlayVariant variant) {
   game.rng->Reseed();
-  const int v = Int(game.rng->Rnd() * 12 + 1);
+  const int v = game.rng->IntRnd(12, 1);
   const bool charge = variant == PlayVariant::Travel && v <= 3;
   // The charge is a personal and a team foul of the ball handler.
   if (charge) AddStat(game, Stat::Foul, SideWordRole::Offense, game.BallPos);

@@ -8,7 +8,7 @@
 namespace courtmere {
 
 inline int RollDie(Rng& rng, int n) {
-  return Int(rng.Rnd() * n + 1);
+  return rng.IntRnd(n, 1);
 }
 
 }  // namespace courtmere

@@ -149,7 +149,7 @@ void ResolveFouledShot(Game& game, int shotValue) {
 
   if (last == 1) {
     game.PossState = 2;
-    game.Clock -= Int(game.rng->Rnd() * 2 + 2);
+    game.Clock -= game.rng->IntRnd(2, 2);
   } else {
     game.Distance = Rebound(game, game.Distance, false);
   }
@@ -187,15 +187,15 @@ void ResolveCleanShot(Game& game, int shotValue) {
   }
   PostPlay(game, text, PlayKind::Offense);
   game.PossState = 2;
-  game.Clock -= Int(game.rng->Rnd() * 2 + 2);
+  game.Clock -= game.rng->IntRnd(2, 2);
 }
 
 }  // namespace
 
 int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
   Rng& rng = *game.rng;
-  game.DefNoise = Int(rng.Rnd() * 10 + 1);
-  const int r = Int(rng.Rnd() * 400 + 1);
+  game.DefNoise = rng.IntRnd(10, 1);
+  const int r = rng.IntRnd(400, 1);
   const GameSide& offense = game.Offense();
   if (offense.Pace == 2 && game.ShotClock > 15) return 0;
 
@@ -241,7 +241,7 @@ int TakeShot(Game& game, const GamePlayer& o, const GamePlayer& d, int r) {
   Rng& rng = *game.rng;
   const Side defSide = game.DefenseSide();
   const int dist = game.Distance;
-  r = CInt(r + Int(rng.Rnd() * 400 + 1));
+  r = CInt(r + rng.IntRnd(400, 1));
   double v = ShotQuality(game, o, d, dist, r);
 
   const bool oTired = IsTired(game, game.LineOf(game.Offense(), o).Energy);
@@ -251,28 +251,28 @@ int TakeShot(Game& game, const GamePlayer& o, const GamePlayer& d, int r) {
   const int oRoll = RollDie(rng, 15);
   v += o.Reach - d.Reach + edge * 15 + dRoll * (dTired ? 1 : 0) - oRoll * (oTired ? 1 : 0);
 
-  const int f = Int(rng.Rnd() * 30 + 1);
+  const int f = rng.IntRnd(30, 1);
   if (dist < 15 && f >= 28) {
-    if (Int(rng.Rnd() * 20 + 5) + d.DefAware < 120) {
+    if (rng.IntRnd(20, 5) + d.DefAware < 120) {
       game.Fouler = PickFouler(game, dist, defSide);
-      if (Int(rng.Rnd() * 400 + 1) + o.Strength + v > 1100) v = kCountsDespiteFoul;
+      if (rng.IntRnd(400, 1) + o.Strength + v > 1100) v = kCountsDespiteFoul;
     }
   } else if (dist >= 15 && dist <= 20 && f == 30) {
-    if (Int(rng.Rnd() * 20 + 1) + d.DefAware < 120) {
+    if (rng.IntRnd(20, 1) + d.DefAware < 120) {
       game.Fouler = PickFouler(game, dist, defSide);
-      if (Int(rng.Rnd() * 50 + 1) > 48) v = kCountsDespiteFoul;
+      if (rng.IntRnd(50, 1) > 48) v = kCountsDespiteFoul;
     }
   }
 
   const int b = PickBlocker(game);
-  const int blockRoll = Int(rng.Rnd() * 20 + 1);
+  const int blockRoll = rng.IntRnd(20, 1);
   const double blockValue = game.Defense().Court[b].ShotBlock * blockRoll / 100.0;
-  const int seconds = Int(rng.Rnd() * 2 + 1);
+  const int seconds = rng.IntRnd(2, 1);
   if (dist < 12 && blockValue > 15.3) {
     game.Blocker = b;
     v = kBlocked;
   } else if (blockRoll == 20) {
-    if (Int(rng.Rnd() * 10 + 1) + d.ShotBlock > 70) {
+    if (rng.IntRnd(10, 1) + d.ShotBlock > 70) {
       // The credit goes to the floor slot of the defender's natural position.
       // Design decision: a position outside 1 to 5 counts as the centre's slot.
       const int position = d.PlayerPosition;
@@ -352,10 +352,10 @@ int PickBlocker(Game& game) {
 namespace {
 
 int LandingDistance(Rng& rng, int d) {
-  if (d > 15) return Int(rng.Rnd() * 10 + 6);
-  if (d >= 10) return Int(rng.Rnd() * 6 + 4);
-  if (d >= 6) return Int(rng.Rnd() * 5 + 4);
-  return Int(rng.Rnd() * 4 + 1);
+  if (d > 15) return rng.IntRnd(10, 6);
+  if (d >= 10) return rng.IntRnd(6, 4);
+  if (d >= 6) return rng.IntRnd(5, 4);
+  return rng.IntRnd(4, 1);
 }
 
 // The rebounding skill of a man, by landing distance and by whether his
@@ -430,7 +430,7 @@ int Rebound(Game& game, int distance, bool blocked) {
   const Side winner = awayBest > homeBest ? Side::Away : Side::Home;
   game.BallPos = winner == Side::Away ? awaySlot : homeSlot;
 
-  const int seconds = Int(rng.Rnd() * 2 + 1);
+  const int seconds = rng.IntRnd(2, 1);
   game.ShotClock -= seconds;
   game.Clock -= seconds;
 

@@ -19,10 +19,10 @@ constexpr const char* kScrubChart =
 
 // The queries of the players who dress, their columns in the order
 // ReadPlayer reads them; the background table has no substitution pattern.
+// Team and TimeInjured are not read: the query fixes both.
 std::string PlayerQuery(std::string_view pattern, std::string_view fromWhere) {
   std::string sql =
-      "SELECT Id, Name, AbbrName, PlayerYear, Team, PlayerPosition, AvoidInjury, Health, "
-      "TimeInjured, Intelligence";
+      "SELECT Id, Name, AbbrName, PlayerYear, PlayerPosition, AvoidInjury, Health, Intelligence";
   for (const SkillColumn& skill : kSkillColumns) (sql += ", ") += skill.name;
   (((sql += ", ") += pattern) += " FROM ") += fromWhere;
   return sql;
@@ -53,19 +53,18 @@ void ReadChart(GameSide& side, Rows& rows) {
   side.Prestige = rows.Double(20);
 }
 
-void ReadPlayer(Rows& rows, GamePlayer& p, PlayerTexts& texts) {
+void ReadPlayer(Rows& rows, const std::string& school, GamePlayer& p, PlayerTexts& texts) {
   p = GamePlayer{};
   int c = 0;
   p.Id = rows.Int(c++);
   rows.TextInto(c++, texts.Name);
   rows.TextInto(c++, texts.AbbrName);
   rows.TextInto(c++, texts.PlayerYear);
-  rows.TextInto(c++, texts.Team);
+  texts.Team = school;
   p.PlayerPosition = rows.Int(c++);
   p.AvoidInjury = rows.Int(c++);
   rows.TextInto(c++, texts.Health);
   p.TimeInjured = 0;  // a player who dresses is not hurt
-  ++c;
   p.Intelligence = rows.Int(c++);
   for (const SkillColumn& skill : kSkillColumns) p.*skill.field = rows.Int(c++);
   p.Pattern = ParseSubPattern(rows.TextView(c));
@@ -127,7 +126,7 @@ void LoadRoster(Game& game, Side side) {
     while (team.RosterCount < GameSide::kMaxRoster && rows.Next()) {
       const int index = ++team.RosterCount;
       GamePlayer& player = team.Roster[index];
-      ReadPlayer(rows, player, team.Texts[index]);
+      ReadPlayer(rows, team.School, player, team.Texts[index]);
       player.StatIndex = index;
       GameStat& line = team.Stats[index];
       line.ClearCounters();

@@ -27,10 +27,6 @@ void Rng::Seed(uint64_t seed) {
   state_ = SplitMix(x);
 }
 
-int Rng::Roll(int n) {
-  return Int(Rnd() * n + 1);
-}
-
 int Rng::R(double m, double a) {
   return CInt(Rnd() * m + a);
 }

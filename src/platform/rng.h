@@ -28,8 +28,17 @@ class Rng {
 
   // A uniform number in [0, 1).
   double Rnd() { return static_cast<double>(Next() >> 11) * 0x1.0p-53; }
+  // Int(Rnd * n + c) for a whole n from 0 to 2^31 and a whole c, worked in
+  // whole numbers: Rnd is k / 2^53, so the value is floor(k * n / 2^53) + c.
+  // Floating point gives the same number but takes a longer chain of
+  // instructions, which the dice-driven branches of the game wait for.
+  int IntRnd(int n, int c) {
+    const unsigned __int128 scaled =
+        static_cast<unsigned __int128>(Next() >> 11) * static_cast<uint64_t>(n);
+    return static_cast<int>(static_cast<uint64_t>(scaled >> 53)) + c;
+  }
   // Int(Rnd * n + 1): a whole number from 1 to n.
-  int Roll(int n);
+  int Roll(int n) { return IntRnd(n, 1); }
   // round(Rnd * m + a), ties to even.
   int R(double m, double a);
   // Mixes fresh entropy (a counter, and in clock mode now and then the clock)

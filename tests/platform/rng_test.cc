@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "platform/numeric.h"
+
 namespace courtmere {
 namespace {
 
@@ -74,6 +76,17 @@ TEST(RngTest, DrawsRightAfterReseedsStayUniform) {
     }
     for (int face = 1; face <= 10; ++face) EXPECT_NEAR(faces[face], 10000, 450) << face;
     EXPECT_NEAR(sameHalf, 50000, 700);
+  }
+}
+
+// The whole-number form of Int(Rnd * n + c) gives what the floating-point
+// form gives for the same draw, over the sizes the game rolls.
+TEST(RngTest, IntRndIsIntOfRndTimesNPlusC) {
+  for (int n : {1, 2, 3, 12, 20, 35, 50, 100, 120, 200, 300, 400, 10000}) {
+    Rng whole(77), real(77);
+    for (int i = 0; i < 20000; ++i) {
+      ASSERT_EQ(whole.IntRnd(n, 5), Int(real.Rnd() * n + 5)) << "n " << n << " draw " << i;
+    }
   }
 }
 
