@@ -34,18 +34,19 @@ void PassTime(Game& game, GameSide& side, int elapsed) {
     line.SecondsPlayed += elapsed;
   }
 
+  // No branch depends on who recovers: the processor could not foresee it.
+  // An empty bench place or a copy of a man on the floor meets a set bit and
+  // keeps his energy (an empty place reads and rewrites Stats[0] unchanged).
   const double gain = 2.5 * elapsed;
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
     const int index = side.StatIndexOf(man);
-    if ((onFloor >> index) & 1u) continue;
     GameStat& line = side.Stats[index];
-    // Whether he recovers is a coin toss to the processor: the energy is
-    // chosen, not branched on.
     const int energy = line.Energy;
-    const bool recovers = (energy < man.Endurance) & (energy < kMaxRecoveredEnergy);
+    const int benchOnly = static_cast<int>(~(onFloor >> index) & 1u);
+    const int recovers = benchOnly & (energy < man.Endurance) & (energy < kMaxRecoveredEnergy);
     const int recovered = std::min(CInt(energy + gain), kMaxRecoveredEnergy);
-    line.Energy = recovers ? recovered : energy;
+    line.Energy = energy + ((recovered - energy) & -recovers);
   }
 }
 
