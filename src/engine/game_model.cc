@@ -86,17 +86,6 @@ const GamePlayer* GameSide::FindRoster(int id) const {
   return nullptr;
 }
 
-int GameSide::RosterIndexOf(const GamePlayer& man) const {
-  if (man.Id == 0) return 0;
-  if (man.StatIndex > 0 && man.StatIndex <= kMaxRoster && Roster[man.StatIndex].Id == man.Id) {
-    return man.StatIndex;
-  }
-  for (int i = 1; i <= RosterCount; ++i) {
-    if (Roster[i].Id == man.Id) return i;
-  }
-  return 0;
-}
-
 void GameSide::ClearPeople() {
   Roster.fill(GamePlayer{});
   // Assigning empty texts keeps each string's storage for the next game.

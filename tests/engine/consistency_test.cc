@@ -83,6 +83,18 @@ bool HasOvertimeBlock(const std::vector<std::string>& log) {
   return false;
 }
 
+// Every record on the floor, the bench and the reserve queue points at its
+// own line: the game finds lines through StatIndex without checking it.
+void ExpectRecordsPointAtTheirLines(const GameSide& side) {
+  auto check = [&](const GamePlayer& man) {
+    if (man.Id == 0) return;
+    EXPECT_EQ(side.StatIndexOf(man), side.FindStatIndex(man.Id)) << "player " << man.Id;
+  };
+  for (int slot = 1; slot <= 5; ++slot) check(side.Court[slot]);
+  for (const GamePlayer& man : side.Bench) check(man);
+  for (const GamePlayer& man : side.Reserve) check(man);
+}
+
 TEST(GameConsistency, TwoThousandSeededGamesAddUp) {
   EngineFixture fixture(11);
   Game game(fixture.session());
@@ -108,6 +120,7 @@ TEST(GameConsistency, TwoThousandSeededGamesAddUp) {
       EXPECT_EQ(side.Team().Points, PointsFromShots(side.Team()));
       EXPECT_EQ(side.Score, side.Team().Points);
       ExpectTeamIsSumOfPlayers(side);
+      ExpectRecordsPointAtTheirLines(side);
       int boxMinutes = 0;
       for (int i = 1; i <= side.RosterCount; ++i) {
         boxMinutes += static_cast<int>(std::nearbyint(side.Stats[i].SecondsPlayed / 60.0));
