@@ -33,8 +33,11 @@ class Rng {
   // Floating point gives the same number but takes a longer chain of
   // instructions, which the dice-driven branches of the game wait for.
   int IntRnd(int n, int c) {
-    const unsigned __int128 scaled =
-        static_cast<unsigned __int128>(Next() >> 11) * static_cast<uint64_t>(n);
+    const uint64_t k = Next() >> 11;
+    // Below 2^11, k * n fits in 64 bits (the game's dice, whose n is known
+    // when this is inlined, take this way).
+    if (n < 2048) return static_cast<int>((k * static_cast<uint64_t>(n)) >> 53) + c;
+    const unsigned __int128 scaled = static_cast<unsigned __int128>(k) * static_cast<uint64_t>(n);
     return static_cast<int>(static_cast<uint64_t>(scaled >> 53)) + c;
   }
   // Int(Rnd * n + 1): a whole number from 1 to n.
