@@ -28,9 +28,10 @@ class Rng {
 
   // A uniform number in [0, 1).
   double Rnd() { return static_cast<double>(Next() >> 11) * 0x1.0p-53; }
-  // Int(Rnd * n + c) for a whole n from 0 to 2^31 and a whole c, worked in
-  // whole numbers: Rnd is k / 2^53, so the value is floor(k * n / 2^53) + c.
-  // Floating point gives the same number but takes a longer chain of
+  // Int(Rnd * n + c) for whole n >= 0 and c, worked in whole numbers: Rnd
+  // is k / 2^53, so the value is floor(k * n / 2^53) + c exactly. The
+  // floating-point form agrees except for a draw within one rounding step of
+  // a whole number (about one in 2^40), and takes a longer chain of
   // instructions, which the dice-driven branches of the game wait for.
   int IntRnd(int n, int c) {
     const uint64_t k = Next() >> 11;
