@@ -300,16 +300,11 @@ int PassBall(Game& game, int distance) {
 }
 
 int PickStealer(Game& game) {
-  int best = 0;
-  int winner = 0;
+  HighestRoll highest;
   for (int slot = 1; slot <= 5; ++slot) {
-    const int v = RollDie(*game.rng, 120) + game.Defense().Court[slot].Steal;
-    if (v > best) {
-      best = v;
-      winner = slot;
-    }
+    highest.Offer(slot, RollDie(*game.rng, 120) + game.Defense().Court[slot].Steal);
   }
-  return winner;
+  return highest.slot;
 }
 
 }  // namespace courtmere

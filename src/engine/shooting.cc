@@ -320,33 +320,24 @@ int FreeThrow(Game& game) {
 int PickFouler(Game& game, int distance, Side side) {
   GameSide& team = game.SideOf(side);
   Rng& rng = *game.rng;
-  int best = 0;
-  int winner = 0;
+  HighestRoll highest;
   for (int slot = 1; slot <= 5; ++slot) {
     const GamePlayer& man = team.Court[slot];
     int v = distance < 13 ? CInt(rng.Rnd() * 50 + 10 + man.ShotBlock - man.DefAware)
                           : CInt(rng.Rnd() * 50 + 1 + man.Steal - man.DefAware);
     const int fouls = game.LineOf(team, man).Fouls;
     if ((game.Half == 1 && fouls >= 3) || fouls >= 4) v -= 25;
-    if (v > best) {
-      best = v;
-      winner = slot;
-    }
+    highest.Offer(slot, v);
   }
-  return winner;
+  return highest.slot;
 }
 
 int PickBlocker(Game& game) {
-  int best = 0;
-  int winner = 0;
+  HighestRoll highest;
   for (int slot = 1; slot <= 5; ++slot) {
-    const int v = CInt(RollDie(*game.rng, 120) + game.Defense().Court[slot].ShotBlock);
-    if (v > best) {
-      best = v;
-      winner = slot;
-    }
+    highest.Offer(slot, RollDie(*game.rng, 120) + game.Defense().Court[slot].ShotBlock);
   }
-  return winner;
+  return highest.slot;
 }
 
 namespace {
@@ -412,23 +403,15 @@ int Rebound(Game& game, int distance, bool blocked) {
   }
   (homeBall ? home : away)[game.BallPos] -= 30;
 
-  auto best = [](const std::array<int, 6>& values, int& slot) {
-    int top = 0;
-    slot = 0;
-    for (int i = 1; i <= 5; ++i) {
-      if (values[i] > top) {
-        top = values[i];
-        slot = i;
-      }
-    }
-    return top;
+  auto best = [](const std::array<int, 6>& values) {
+    HighestRoll highest;
+    for (int i = 1; i <= 5; ++i) highest.Offer(i, values[i]);
+    return highest;
   };
-  int homeSlot = 0;
-  int awaySlot = 0;
-  const int homeBest = best(home, homeSlot);
-  const int awayBest = best(away, awaySlot);
-  const Side winner = awayBest > homeBest ? Side::Away : Side::Home;
-  game.BallPos = winner == Side::Away ? awaySlot : homeSlot;
+  const HighestRoll homeBest = best(home);
+  const HighestRoll awayBest = best(away);
+  const Side winner = awayBest.value > homeBest.value ? Side::Away : Side::Home;
+  game.BallPos = winner == Side::Away ? awayBest.slot : homeBest.slot;
 
   const int seconds = rng.IntRnd(2, 1);
   game.ShotClock -= seconds;
