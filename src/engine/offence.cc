@@ -45,6 +45,32 @@ bool StealTryBeat(PressKind press, int beat) {
          (beat < 7 && press == PressKind::HalfCourt) || (beat < 6 && press == PressKind::None);
 }
 
+// The bands of a pass's score, from above 262 down through 225, 150, 75 and
+// -50: the receiver takes the ball at IntRnd(width, from) feet. In the last,
+// the danger band (-50 and below), that draw is the defender's steal roll.
+struct PassBand {
+  int width;
+  int from;
+};
+constexpr PassBand kPassBands[] = {{6, 5}, {15, 6}, {13, 9}, {5, 17}, {2, 20}, {35, 20}};
+constexpr int kDangerBand = 5;
+
+// The receiving slots of a pass by the feet at which it is caught, read off
+// by the roll p: above `over[0]` the first slot, above `over[1]` the second,
+// and so on; at or below `over[3]` the last.
+struct ReceiverBand {
+  int over[4];
+  int slot[5];
+};
+constexpr ReceiverBand kReceiverBands[] = {
+    {{65, 30, 10, 5}, {1, 2, 3, 4, 5}},   // above 20 feet
+    {{65, 40, 15, 5}, {2, 3, 1, 4, 5}},   // 16 to 20
+    {{75, 50, 35, 15}, {3, 2, 1, 4, 5}},  // 11 to 15
+    {{75, 50, 30, 10}, {4, 3, 5, 2, 1}},  // 7 to 10
+    {{65, 35, 15, 5}, {5, 4, 3, 2, 1}},   // 2 to 6
+    {{70, 40, 20, 5}, {5, 4, 3, 2, 1}},   // closer
+};
+
 }  // namespace
 
 void InboundBall(Game& game) {
@@ -212,12 +238,12 @@ void RateOpenness(Game& game, const GamePlayer& o, const GamePlayer& d) {
 }
 
 int PassReceiver(int r, int p) {
-  if (r > 20) return p > 65 ? 1 : (p > 30 ? 2 : (p > 10 ? 3 : (p > 5 ? 4 : 5)));
-  if (r >= 16) return p > 65 ? 2 : (p > 40 ? 3 : (p > 15 ? 1 : (p > 5 ? 4 : 5)));
-  if (r >= 11) return p > 75 ? 3 : (p > 50 ? 2 : (p > 35 ? 1 : (p > 15 ? 4 : 5)));
-  if (r >= 7) return p > 75 ? 4 : (p > 50 ? 3 : (p > 30 ? 5 : (p > 10 ? 2 : 1)));
-  if (r >= 2) return p > 65 ? 5 : (p > 35 ? 4 : (p > 15 ? 3 : (p > 5 ? 2 : 1)));
-  return p > 70 ? 5 : (p > 40 ? 4 : (p > 20 ? 3 : (p > 5 ? 2 : 1)));
+  // Counted, not branched to: both numbers are rolls.
+  const int band = (r <= 20) + (r < 16) + (r < 11) + (r < 7) + (r < 2);
+  const ReceiverBand& receivers = kReceiverBands[band];
+  const int place = (p <= receivers.over[0]) + (p <= receivers.over[1]) + (p <= receivers.over[2]) +
+                    (p <= receivers.over[3]);
+  return receivers.slot[place];
 }
 
 int RollPass(Game& game, int d) {
@@ -244,21 +270,12 @@ int RollPass(Game& game, int d) {
     score = 200;
   }
 
-  int result;
-  if (score > 262) {
-    result = rng.IntRnd(6, 5);
-  } else if (score > 225) {
-    result = rng.IntRnd(15, 6);
-  } else if (score > 150) {
-    result = rng.IntRnd(13, 9);
-  } else if (score > 75) {
-    result = rng.IntRnd(5, 17);
-  } else if (score > -50) {
-    result = rng.IntRnd(2, 20);
-  } else {
-    const int x = rng.IntRnd(35, 20) + def.Steal;
-    result = (b < 4 || x > 90) ? -1 : 0;
-  }
+  // Counted, not branched to: the score rests on a roll.
+  const int band =
+      (score <= 262) + (score <= 225) + (score <= 150) + (score <= 75) + (score <= -50);
+  const PassBand& pass = kPassBands[band];
+  int result = rng.IntRnd(pass.width, pass.from);
+  if (band == kDangerBand) result = (b < 4 || result + def.Steal > 90) ? -1 : 0;
   if (score > 50 && result >= 21) result = 20;
 
   const double q = rng.IntRnd(100, 5) * o.Passing / 100.0;

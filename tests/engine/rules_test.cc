@@ -312,6 +312,31 @@ TEST(PassReceivers, EachBandHasItsOwnSlots) {
   EXPECT_EQ(PassReceiver(1, 71), 5);
 }
 
+// Each band's edges, both feet and roll: the slot just above each roll
+// threshold and at it, for both ends of every distance band.
+TEST(PassReceivers, EveryEdgeOfEveryBand) {
+  struct Band {
+    int nearEnd, farEnd;
+    int over[4];
+    int slot[5];
+  };
+  const Band bands[] = {
+      {21, 99, {65, 30, 10, 5}, {1, 2, 3, 4, 5}},  {16, 20, {65, 40, 15, 5}, {2, 3, 1, 4, 5}},
+      {11, 15, {75, 50, 35, 15}, {3, 2, 1, 4, 5}}, {7, 10, {75, 50, 30, 10}, {4, 3, 5, 2, 1}},
+      {2, 6, {65, 35, 15, 5}, {5, 4, 3, 2, 1}},    {-3, 1, {70, 40, 20, 5}, {5, 4, 3, 2, 1}},
+  };
+  for (const Band& band : bands) {
+    for (int r : {band.nearEnd, band.farEnd}) {
+      EXPECT_EQ(PassReceiver(r, 100), band.slot[0]) << r;
+      for (int k = 0; k < 4; ++k) {
+        EXPECT_EQ(PassReceiver(r, band.over[k] + 1), band.slot[k]) << r << " " << k;
+        EXPECT_EQ(PassReceiver(r, band.over[k]), band.slot[k + 1]) << r << " " << k;
+      }
+      EXPECT_EQ(PassReceiver(r, 1), band.slot[4]) << r;
+    }
+  }
+}
+
 TEST(InjuryLength, TheTrainerShortensOrLengthens) {
   EXPECT_EQ(InjuryWeeks(4, 25), 6);
   EXPECT_EQ(InjuryWeeks(4, 26), 5);
