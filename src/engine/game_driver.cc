@@ -11,7 +11,6 @@
 #include "engine/offence.h"
 #include "engine/play_log.h"
 #include "engine/play_text.h"
-#include "engine/roll.h"
 #include "engine/shooting.h"
 #include "engine/substitution.h"
 #include "engine/team_loader.h"
@@ -93,7 +92,7 @@ void LiveChange(Game& game) {
   if (game.BallPos >= 3) {
     // The outlet pass to a guard.
     game.Rebounded = 0;
-    const int guard = RollDie(*game.rng, 10) > 7 ? 2 : 1;
+    const int guard = game.rng->Roll(10) > 7 ? 2 : 1;
     PostPlayWith(game, PlayKind::Offense,
                  [&] { return "passes the ball to " + game.Offense().CourtName(guard); });
     game.BallPos = guard;
@@ -268,13 +267,13 @@ void PlayPeriods(Game& game, int live) {
 void TipOff(Game& game) {
   Rng& rng = *game.rng;
   game.BallPos = 5;
-  const int home = RollDie(rng, 50) + game.Home().Court[5].ShotBlock;
-  const int away = RollDie(rng, 50) + game.Away().Court[5].ShotBlock;
+  const int home = rng.Roll(50) + game.Home().Court[5].ShotBlock;
+  const int away = rng.Roll(50) + game.Away().Court[5].ShotBlock;
   // The lower total wins the tip; a tie goes to the home side.
   game.Possession = away >= home ? Side::Home : Side::Away;
   game.TipWinner = game.Possession;
   PostPlay(game, "Wins the tip", PlayKind::Offense);
-  const int p = RollDie(rng, 40);
+  const int p = rng.Roll(40);
   game.BallPos = p > 30 ? 1 : (p > 20 ? 2 : (p > 10 ? 3 : 4));
   PostPlay(game, "gathers the ball", PlayKind::Offense);
   TakeSeconds(game, rng.IntRnd(3, 2));
@@ -397,7 +396,7 @@ void InboundAfterFoul(Game& game) {
 void BuzzerBeater(Game& game) {
   PostPlay(game, "goes for the Buzzer beater...", PlayKind::Offense);
   game.rng->Reseed();
-  const int p = RollDie(*game.rng, 100);
+  const int p = game.rng->Roll(100);
   const int slot = game.BallPos;
   if (p < 5) {
     AddStat(game, Stat::ShotAttempt, SideWordRole::Offense, slot);

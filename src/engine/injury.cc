@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "engine/play_log.h"
-#include "engine/roll.h"
 #include "platform/numeric.h"
 #include "store/session.h"
 
@@ -26,7 +25,7 @@ int InjuryWeeks(int weeksOut, int r) {
 bool InjurePlayer(Game& game, Side side, int slot, bool background) {
   GameSide& team = game.SideOf(side);
   GamePlayer& man = team.Court[slot];
-  const int injuryId = RollDie(*game.rng, 60);
+  const int injuryId = game.rng->Roll(60);
   auto rows = game.session->Db().Query(
       "SELECT InjuryName, WeeksOut FROM InjuryList WHERE InjuryID = ?", injuryId);
   if (!rows.Next()) return false;

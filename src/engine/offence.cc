@@ -75,9 +75,9 @@ constexpr ReceiverBand kReceiverBands[] = {
 
 void InboundBall(Game& game) {
   Rng& rng = *game.rng;
-  const int p = RollDie(rng, 100);
+  const int p = rng.Roll(100);
   const int receiver = p >= 81 ? 2 : (p >= 76 ? 3 : 1);
-  const int q = RollDie(rng, 100);
+  const int q = rng.Roll(100);
   const int inbounder = q <= 40 ? 4 : 5;
   if (game.Clock > 120) {
     switch (game.Offense().tactics.TempoRule()) {
@@ -132,7 +132,7 @@ void BringBallUp(Game& game) {
   if (game.Clock < 15 && game.TransitionEdge >= 0) seconds = rng.IntRnd(3, 1);
   TakeSeconds(game, seconds);
 
-  const int p = RollDie(rng, 100);
+  const int p = rng.Roll(100);
   if (v >= -27) {
     game.BallPos = p >= 31 ? 1 : (p >= 13 ? 2 : (p >= 7 ? 3 : (p >= 4 ? 4 : 5)));
     if (game.BallPos != prev) {
@@ -185,7 +185,7 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
         game.Distance = 0;
       }
     } else if (StealTryBeat(press, beat)) {
-      if (RollDie(rng, 50) + defend > 170) game.Distance = -1;
+      if (rng.Roll(50) + defend > 170) game.Distance = -1;
     } else if (move > 155 || beat > 168) {
       if ((move > 400 || (move > 50 && beat - defend > 188)) && game.Distance < 20) {
         game.Fouler = PickFouler(game, dist, defSide);
@@ -222,7 +222,7 @@ int DribbleMove(Game& game, const GamePlayer& o, const GamePlayer& d) {
 void RateOpenness(Game& game, const GamePlayer& o, const GamePlayer& d) {
   Rng& rng = *game.rng;
   rng.Reseed();
-  const int n = RollDie(rng, 35);
+  const int n = rng.Roll(35);
   const int oEnergy = game.LineOf(game.Offense(), o).Energy;
   const int dEnergy = game.LineOf(game.Defense(), d).Energy;
   const double coachEdge = (game.Offense().OffCoach - game.Defense().DefCoach) / 2.0;
@@ -232,8 +232,8 @@ void RateOpenness(Game& game, const GamePlayer& o, const GamePlayer& d) {
   game.Openness = 0;
   const double sum = o.Passing + o.Handling + o.OffAware - r * 1.1 + 2 * game.Footwork +
                      game.TransitionEdge + n + coachEdge;
-  const int oRoll = RollDie(rng, 20);
-  const int dRoll = RollDie(rng, 20);
+  const int oRoll = rng.Roll(20);
+  const int dRoll = rng.Roll(20);
   game.Openness = CInt(sum - oRoll * oTired + dRoll * dTired);
 }
 
@@ -292,7 +292,7 @@ int PassBall(Game& game, int distance) {
   if (r < 1) return r;
   int slot;
   do {
-    slot = PassReceiver(r, RollDie(rng, 100));
+    slot = PassReceiver(r, rng.Roll(100));
   } while (slot == game.BallPos);
 
   int seconds;
@@ -319,7 +319,7 @@ int PassBall(Game& game, int distance) {
 int PickStealer(Game& game) {
   HighestRoll highest;
   for (int slot = 1; slot <= 5; ++slot) {
-    highest.Offer(slot, RollDie(*game.rng, 120) + game.Defense().Court[slot].Steal);
+    highest.Offer(slot, game.rng->Roll(120) + game.Defense().Court[slot].Steal);
   }
   return highest.slot;
 }

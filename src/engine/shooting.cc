@@ -178,8 +178,8 @@ void ResolveCleanShot(Game& game, int shotValue) {
   std::string text = PlayText(game, dist, PlayVariant::Hits);
   if (game.WantsText()) text = WithPoints(std::move(text), ShooterPoints(game));
   if (game.Footwork == 0 && game.Fouler == 0 && game.Passer != 0 && game.Rebounded == 0) {
-    const int a = RollDie(*game.rng, 10);
-    const int b = RollDie(*game.rng, 10);
+    const int a = game.rng->Roll(10);
+    const int b = game.rng->Roll(10);
     if ((game.Passer == 1 && a > 2) || b > 4) {
       if (game.WantsText()) text += " (" + game.Offense().CourtName(game.Passer) + ")";
       AddStat(game, Stat::Assist, SideWordRole::Offense, game.Passer);
@@ -247,8 +247,8 @@ int TakeShot(Game& game, const GamePlayer& o, const GamePlayer& d, int r) {
   const bool oTired = IsTired(game, game.LineOf(game.Offense(), o).Energy);
   const bool dTired = IsTired(game, game.LineOf(game.Defense(), d).Energy);
   const int edge = game.Possession == Side::Home ? game.CourtEdge : -game.CourtEdge;
-  const int dRoll = RollDie(rng, 10);
-  const int oRoll = RollDie(rng, 15);
+  const int dRoll = rng.Roll(10);
+  const int oRoll = rng.Roll(15);
   v += o.Reach - d.Reach + edge * 15 + dRoll * (dTired ? 1 : 0) - oRoll * (oTired ? 1 : 0);
 
   const int f = rng.IntRnd(30, 1);
@@ -303,7 +303,7 @@ int FreeThrow(Game& game) {
   PostPlay(game, "Sub during Free Throws", PlayKind::Subs);
   int made = 0;
   const GamePlayer& shooter = game.Offense().Court[game.BallPos];
-  if (RollDie(*game.rng, 100) < shooter.FreeThrow) {
+  if (game.rng->Roll(100) < shooter.FreeThrow) {
     AddStat(game, Stat::FreeThrowMade, SideWordRole::Offense, game.BallPos);
     AddStat(game, Stat::AllowPoint, SideWordRole::Defense, game.BallPos);
     game.Offense().Score += 1;
@@ -335,7 +335,7 @@ int PickFouler(Game& game, int distance, Side side) {
 int PickBlocker(Game& game) {
   HighestRoll highest;
   for (int slot = 1; slot <= 5; ++slot) {
-    highest.Offer(slot, RollDie(*game.rng, 120) + game.Defense().Court[slot].ShotBlock);
+    highest.Offer(slot, game.rng->Roll(120) + game.Defense().Court[slot].ShotBlock);
   }
   return highest.slot;
 }

@@ -302,16 +302,6 @@ TEST(PlayTexts, BandEdgesDifferFromVariantToVariant) {
                "needs his wallet back as he was Mugged By ");
 }
 
-TEST(PassReceivers, EachBandHasItsOwnSlots) {
-  EXPECT_EQ(PassReceiver(21, 66), 1);
-  EXPECT_EQ(PassReceiver(20, 66), 2);
-  EXPECT_EQ(PassReceiver(15, 76), 3);
-  EXPECT_EQ(PassReceiver(10, 31), 5);
-  EXPECT_EQ(PassReceiver(6, 66), 5);
-  EXPECT_EQ(PassReceiver(1, 70), 4);
-  EXPECT_EQ(PassReceiver(1, 71), 5);
-}
-
 // Each band's edges, both feet and roll: the slot just above each roll
 // threshold and at it, for both ends of every distance band.
 TEST(PassReceivers, EveryEdgeOfEveryBand) {
