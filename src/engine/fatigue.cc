@@ -13,7 +13,8 @@ constexpr int kMaxRecoveredEnergy = 2000;
 // The five men on the floor lose energy and gain seconds; the men on the
 // bench who are not also on the floor (a chart may name a man twice) recover.
 void PassTime(Game& game, GameSide& side, int elapsed) {
-  const int drain = side.tactics.TempoRule() == TempoKind::UpBeat ? CInt(1.5 * elapsed) : elapsed;
+  const int drain =
+      side.tactics.TempoRule() == TempoKind::UpBeat ? CIntOfHalves(3 * elapsed) : elapsed;
   const PressKind press = side.tactics.PressRule();
   // The lines of the men on the floor, as bits. Bit 0 stands for every
   // blank record, whose seconds go to a scratch line, and for empty bench
@@ -28,7 +29,7 @@ void PassTime(Game& game, GameSide& side, int elapsed) {
       if (press == PressKind::FullCourt) {
         line.Energy -= elapsed;
       } else if (press == PressKind::HalfCourt) {
-        line.Energy = CInt(line.Energy - 0.5 * elapsed);
+        line.Energy = CIntOfHalves(2 * line.Energy - elapsed);
       }
     }
     line.SecondsPlayed += elapsed;
@@ -37,7 +38,6 @@ void PassTime(Game& game, GameSide& side, int elapsed) {
   // No branch depends on who recovers: the processor could not foresee it.
   // An empty bench place or a copy of a man on the floor meets a set bit and
   // keeps his energy (an empty place reads and rewrites Stats[0] unchanged).
-  const double gain = 2.5 * elapsed;
   for (int b = 1; b <= GameSide::kBenchPlaces; ++b) {
     const GamePlayer& man = side.Bench[b];
     const int index = side.StatIndexOf(man);
@@ -45,7 +45,7 @@ void PassTime(Game& game, GameSide& side, int elapsed) {
     const int energy = line.Energy;
     const int benchOnly = static_cast<int>(~(onFloor >> index) & 1u);
     const int recovers = benchOnly & (energy < man.Endurance) & (energy < kMaxRecoveredEnergy);
-    const int recovered = std::min(CInt(energy + gain), kMaxRecoveredEnergy);
+    const int recovered = std::min(CIntOfHalves(2 * energy + 5 * elapsed), kMaxRecoveredEnergy);
     line.Energy = energy + ((recovered - energy) & -recovers);
   }
 }

@@ -56,8 +56,14 @@ struct GamePlayer : SkillRatings {
   // arrays (0: none). Set once, when the roster is loaded: floor, bench and
   // reserve records are copies of roster records, and the lines never move
   // during a game, so it holds for every copy. A record made any other way
-  // must set it too.
+  // must set it too. A blank record (Id 0) always has 0 here.
   int StatIndex = 0;
+
+  // Turns the record into a blank one: the man is gone from his place.
+  void MakeBlank() {
+    Id = 0;
+    StatIndex = 0;
+  }
 };
 
 // The texts of a roster record.
@@ -194,7 +200,7 @@ struct GameSide {
   // The index of a record's line (0: none, and for a blank record), from its
   // StatIndex: the same line FindStat(man.Id) finds. Inline and unchecked:
   // the possession loop asks for it some 8,000 times a game.
-  int StatIndexOf(const GamePlayer& man) const { return man.Id == 0 ? 0 : man.StatIndex; }
+  int StatIndexOf(const GamePlayer& man) const { return man.StatIndex; }
   GameStat* StatOf(const GamePlayer& man) {
     const int i = StatIndexOf(man);
     return i == 0 ? nullptr : &Stats[i];
@@ -224,9 +230,11 @@ struct GameSide {
   // The short name of the man in a floor slot.
   const std::string& CourtName(int slot) const { return TextsOf(Court[slot]).AbbrName; }
   // True when no floor slot holds a blank record.
+  // Short-circuit: the floor is nearly always full, so the branches are
+  // foreseen.
   bool FloorFull() const {
-    return (Court[1].Id != 0) & (Court[2].Id != 0) & (Court[3].Id != 0) & (Court[4].Id != 0) &
-           (Court[5].Id != 0);
+    return Court[1].Id != 0 && Court[2].Id != 0 && Court[3].Id != 0 && Court[4].Id != 0 &&
+           Court[5].Id != 0;
   }
   bool OnCourt(int id) const {
     return (Court[1].Id == id) | (Court[2].Id == id) | (Court[3].Id == id) | (Court[4].Id == id) |
@@ -345,6 +353,8 @@ struct Game {
   const GameSide& Away() const { return sides[1]; }
   GameSide& Offense() { return SideOf(Possession); }
   GameSide& Defense() { return SideOf(OtherSide(Possession)); }
+  const GameSide& Offense() const { return SideOf(Possession); }
+  const GameSide& Defense() const { return SideOf(OtherSide(Possession)); }
   Side DefenseSide() const { return OtherSide(Possession); }
   GameSide& SideOf(SideWordRole role) {
     return role == SideWordRole::Offense ? Offense() : Defense();

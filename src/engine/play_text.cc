@@ -1,6 +1,5 @@
 #include "engine/play_text.h"
 
-#include "engine/add_stat.h"
 #include "platform/numeric.h"
 
 namespace courtmere {
@@ -124,19 +123,12 @@ const char* PlayTableText(PlayVariant variant, int d, int v) {
   return "";
 }
 
-std::string PlayText(Game& game, int distance, PlayVariant variant) {
-  game.rng->Reseed();
-  const int v = game.rng->IntRnd(12, 1);
-  const bool charge = variant == PlayVariant::Travel && v <= 3;
-  // The charge is a personal and a team foul of the ball handler.
-  if (charge) AddStat(game, Stat::Foul, SideWordRole::Offense, game.BallPos);
-  if (!game.WantsText()) return {};
-
+std::string BuildPlayText(const Game& game, int distance, PlayVariant variant, int v) {
   std::string text;
   if (variant == PlayVariant::Pass2) {
     text = game.Offense().CourtName(game.Passer);
     text += Pass2Phrase(v);
-  } else if (charge) {
+  } else if (IsCharge(variant, v)) {
     text = "knocks over the defender. ";
     text += game.Defense().CourtName(game.BallPos);
     text += " takes the Charge!";

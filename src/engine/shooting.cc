@@ -190,15 +190,10 @@ void ResolveCleanShot(Game& game, int shotValue) {
   game.Clock -= game.rng->IntRnd(2, 2);
 }
 
-}  // namespace
-
-int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
-  Rng& rng = *game.rng;
-  game.DefNoise = rng.IntRnd(10, 1);
-  const int r = rng.IntRnd(400, 1);
+// The shot decision of a man inside his range with time to spare: his shot
+// score against the bands, with the roll r.
+bool WantsTheShot(Game& game, const GamePlayer& o, const GamePlayer& d, int r) {
   const GameSide& offense = game.Offense();
-  if (offense.Pace == 2 && game.ShotClock > 15) return 0;
-
   const OffenseKind kind = offense.tactics.OffenseRule();
   const int outsideBonus = kind == OffenseKind::Outside ? 40 : 0;
   const int insideBonus = kind == OffenseKind::Inside ? 20 : 0;
@@ -206,6 +201,31 @@ int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
   int hurry = ((deficit >= 4 && deficit <= 9 && game.Clock < 60) || offense.Pace == 1) ? 30 : 0;
   hurry += HurryFromClocks(game.Clock, game.ShotClock);
 
+  const int need = offense.ShotNeed;
+  if (need == 3 && game.ShotClock < 11 && o.Range > 19) game.Distance = 20;
+  const int dist = game.Distance;
+  double s = DecisionScore(game, o, d, dist, r, hurry, outsideBonus, insideBonus);
+  if (need == 2 || need == 3) {
+    const bool fits = (need == 3 && dist >= 20) || (need == 2 && dist < 20);
+    s += fits ? 40 : -50;
+  }
+  const int a = o.OffAware + r;
+  if (s > 330) return a > 65;
+  if (s > 285) return a <= 75;
+  if (s > 280) return a <= 55;
+  return false;
+}
+
+}  // namespace
+
+int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
+  Rng& rng = *game.rng;
+  game.DefNoise = rng.IntRnd(10, 1);
+  const int r = rng.IntRnd(400, 1);
+  if (game.Offense().Pace == 2 && game.ShotClock > 15) return 0;
+
+  // Beyond his range he shoots only as the shot clock runs out; with time
+  // left on both clocks he passes.
   bool shoot = false;
   if (game.Distance > o.Range) {
     if (game.ShotClock < 5) {
@@ -215,25 +235,7 @@ int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
     }
   }
   if (!shoot && (game.ShotClock < 5 || game.Clock < 5)) shoot = true;
-  if (!shoot) {
-    const int need = offense.ShotNeed;
-    if (need == 3 && game.ShotClock < 11 && o.Range > 19) game.Distance = 20;
-    const int dist = game.Distance;
-    double s = DecisionScore(game, o, d, dist, r, hurry, outsideBonus, insideBonus);
-    if (need == 2 || need == 3) {
-      const bool fits = (need == 3 && dist >= 20) || (need == 2 && dist < 20);
-      s += fits ? 40 : -50;
-    }
-    const int a = o.OffAware + r;
-    if (s > 330) {
-      shoot = a > 65;
-    } else if (s > 285) {
-      shoot = a <= 75;
-    } else if (s > 280) {
-      shoot = a <= 55;
-    }
-  }
-  if (!shoot) return 0;
+  if (!shoot && !WantsTheShot(game, o, d, r)) return 0;
   return TakeShot(game, o, d, r);
 }
 

@@ -62,7 +62,7 @@ void RemoveMenWhoMustLeave(Game& game) {
         return team.TextsOf(man).AbbrName +
                (fouledOut ? " fouled out of the game" : " left the game with an injury");
       });
-      man.Id = 0;
+      man.MakeBlank();
       SubstitutePlayer(game, slot, side, 0);
       if (UserCoached(game, side)) {
         game.SubForced = 1;

@@ -127,7 +127,7 @@ void LoadRoster(Game& game, Side side) {
       const int index = ++team.RosterCount;
       GamePlayer& player = team.Roster[index];
       ReadPlayer(rows, team.School, player, team.Texts[index]);
-      player.StatIndex = index;
+      player.StatIndex = player.Id == 0 ? 0 : index;
       GameStat& line = team.Stats[index];
       line.ClearCounters();
       line.Id = player.Id;

@@ -29,6 +29,13 @@ inline int CInt(double x) {
   return static_cast<int>(std::rint(x));
 }
 
+// CInt(twice / 2.0) in whole numbers: a half rounds to its even neighbour.
+// For sums of whole numbers and halves, which need no float conversion.
+inline int CIntOfHalves(int twice) {
+  const int half = twice >> 1;  // floor, negative numbers included
+  return half + (twice & half & 1);
+}
+
 // Rounds to `places` decimals, ties to even on the scaled value.
 inline double Round(double x, int places = 0) {
   if (places == 0) return std::rint(x);

@@ -27,6 +27,11 @@ void Rng::Seed(uint64_t seed) {
   state_ = SplitMix(x);
 }
 
+void Rng::MixClock(uint64_t x) {
+  uint64_t clock = x ^ ClockTicks();
+  state_ ^= SplitMix(clock);
+}
+
 int Rng::R(double m, double a) {
   return CInt(Rnd() * m + a);
 }

@@ -48,14 +48,13 @@ class Rng {
   // Mixes fresh entropy (a counter, and in clock mode now and then the clock)
   // into the state. Inline: the possession loop reseeds before most of its
   // draws, some 1,600 times a game.
-  void Reseed() {
+  [[gnu::always_inline]] void Reseed() {
     const uint64_t x = ++reseeds_;
     // Design decision: reading the clocks costs some 50 ns, more than the
     // rest of a reseed many times over, so clock mode takes them at every
     // 64th reseed only; the state is unpredictable from the first seed on.
     if (!fixed_ && (x & 63) == 0) {
-      uint64_t clock = x ^ ClockTicks();
-      state_ ^= SplitMix(clock);
+      MixClock(x);
       return;
     }
     // Every output hashes the whole state, so moving the state by a multiple
@@ -81,6 +80,8 @@ class Rng {
     return z ^ (z >> 31);
   }
   static uint64_t ClockTicks();
+  // Clock mode's reseed: the clock, hashed with the counter x, into the state.
+  void MixClock(uint64_t x);
   void Seed(uint64_t seed);
 
   uint64_t state_ = 0;

@@ -84,10 +84,14 @@ bool HasOvertimeBlock(const std::vector<std::string>& log) {
 }
 
 // Every record on the floor, the bench and the reserve queue points at its
-// own line: the game finds lines through StatIndex without checking it.
+// own line, and a blank record at none: the game finds lines through
+// StatIndex without checking it.
 void ExpectRecordsPointAtTheirLines(const GameSide& side) {
   auto check = [&](const GamePlayer& man) {
-    if (man.Id == 0) return;
+    if (man.Id == 0) {
+      EXPECT_EQ(man.StatIndex, 0) << "a blank record";
+      return;
+    }
     EXPECT_EQ(side.StatIndexOf(man), side.FindStatIndex(man.Id)) << "player " << man.Id;
   };
   for (int slot = 1; slot <= 5; ++slot) check(side.Court[slot]);

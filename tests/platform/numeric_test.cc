@@ -16,6 +16,12 @@ TEST(NumericTest, CIntRoundsTiesToEven) {
   EXPECT_EQ(CInt(70.49), 70);
 }
 
+TEST(NumericTest, CIntOfHalvesIsCIntOfTheHalf) {
+  for (int twice = -5001; twice <= 5001; ++twice) {
+    ASSERT_EQ(CIntOfHalves(twice), CInt(twice / 2.0)) << twice;
+  }
+}
+
 TEST(NumericTest, IntIsFloorFixIsTruncation) {
   EXPECT_EQ(Int(2.9), 2);
   EXPECT_EQ(Int(-0.5), -1);
