@@ -49,6 +49,12 @@ bool UserCoached(const Game& game, Side side) {
   return game.Live() && game.UserSide == side && !game.screen->AutoSubstitution();
 }
 
+void ShowSubsOnScreen(Game& game) {
+  if (!game.Live()) return;
+  if (game.UserSubAsked == 1) game.screen->OpenSubstitutions(game);
+  game.screen->ShowSubs(game);
+}
+
 // Step 3 of the floor check: men with five fouls or a real injury leave.
 void RemoveMenWhoMustLeave(Game& game) {
   for (int slot = 1; slot <= 5; ++slot) {
@@ -72,15 +78,31 @@ void RemoveMenWhoMustLeave(Game& game) {
   }
 }
 
-}  // namespace
-
-FloorCheckLine FloorCheck(const Game& game, SubPattern pattern, Side side) {
-  const int row = PeriodRow(game);
+// The floor check's line for the period row (PeriodRow) and pattern.
+FloorCheckLine FloorCheckAt(int row, SubPattern pattern, Side side) {
   const PatternLimits& limits = LimitsOf(pattern);
   static constexpr int kMaxFouls[5] = {3, 4, 5, 5, 5};
   int maxFouls = kMaxFouls[row];
   if (row == 2 && side == Side::Away) maxFouls = 4;
   return {limits.minEnergy[row], maxFouls, limits.returnMargin[row], row >= 2 ? 1 : 0};
+}
+
+// True when every floor record of both sides has a statistics line: then
+// no slot is blank or held by a man without a line, and the fill passes
+// would find nothing to do.
+bool EveryManOnTheFloorHasALine(const Game& game) {
+  for (const GameSide& side : game.sides) {
+    for (int slot = 1; slot <= 5; ++slot) {
+      if (side.StatIndexOf(side.Court[slot]) == 0) return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+FloorCheckLine FloorCheck(const Game& game, SubPattern pattern, Side side) {
+  return FloorCheckAt(PeriodRow(game), pattern, side);
 }
 
 const std::array<int, 7>& SubstitutionOrder(int slot) {
@@ -186,16 +208,23 @@ void CheckSubs(Game& game) {
   InjuryCheck(game);
   RemoveMenWhoMustLeave(game);
 
+  // The period row stays the same through the check: nothing in it moves
+  // the clock.
+  const int row = PeriodRow(game);
   int minEnergy = 0;
   for (int slot = 1; slot <= 5; ++slot) {
     for (Side side : {Side::Home, Side::Away}) {
       if (UserCoached(game, side)) continue;
       if (side == game.Possession && slot == game.BallPos) continue;
       const GamePlayer& man = game.SideOf(side).Court[slot];
-      const FloorCheckLine line = FloorCheck(game, man.Pattern, side);
+      const FloorCheckLine line = FloorCheckAt(row, man.Pattern, side);
       minEnergy = line.MinEnergy;
       RotatePlayer(game, side, slot, line);
     }
+  }
+  if (EveryManOnTheFloorHasALine(game)) {
+    ShowSubsOnScreen(game);
+    return;
   }
   for (int slot = 1; slot <= 5; ++slot) {
     for (Side side : {Side::Home, Side::Away}) {
@@ -216,10 +245,7 @@ void CheckSubs(Game& game) {
     }
   }
 
-  if (game.Live()) {
-    if (game.UserSubAsked == 1) game.screen->OpenSubstitutions(game);
-    game.screen->ShowSubs(game);
-  }
+  ShowSubsOnScreen(game);
 }
 
 }  // namespace courtmere
