@@ -1,8 +1,10 @@
 #include "engine/debug_dump.h"
 
+#include <exception>
 #include <fstream>
 
 #include "engine/engine_error.h"
+#include "engine/team_loader.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -49,6 +51,13 @@ std::string DebugDumpText(const Game& game) {
 }
 
 std::filesystem::path DebugDump(Game& game) {
+  // The names are read now if the game had no use for them. Design decision:
+  // a store that fails here leaves them blank rather than hiding the fault
+  // that asked for the dump.
+  try {
+    for (Side side : {Side::Home, Side::Away}) LoadFullTexts(game, side);
+  } catch (const std::exception&) {
+  }
   const std::string name = game.Home().Team().TeamName + "-" + game.Away().Team().TeamName +
                            std::to_string(game.Clock) + ".txt";
   const std::filesystem::path file = game.session->folder.Root() / name;

@@ -91,6 +91,8 @@ void GameSide::ClearPeople() {
   // Assigning empty texts keeps each string's storage for the next game.
   for (PlayerTexts& texts : Texts) texts = PlayerTexts{};
   RosterCount = 0;
+  BackgroundRoster = false;
+  FullTexts = false;
   Stats.fill(GameStat{});
   Depth.fill(0);
   Court.fill(GamePlayer{});

@@ -66,7 +66,9 @@ struct GamePlayer : SkillRatings {
   }
 };
 
-// The texts of a roster record.
+// The texts of a roster record. Every game reads AbbrName (the box score
+// and the leaders show it); Name, PlayerYear and Health only a game that
+// shows its plays, or a dump, reads (see GameSide::FullTexts).
 struct PlayerTexts {
   std::string Name;
   std::string AbbrName;
@@ -152,6 +154,10 @@ struct GameSide {
   // Texts[i] belongs to Roster[i]; Texts[0], always empty, to a blank record.
   std::array<PlayerTexts, kMaxRoster + 1> Texts{};
   int RosterCount = 0;
+  // Whether the roster came from the background players' table, and whether
+  // its full texts have been read.
+  bool BackgroundRoster = false;
+  bool FullTexts = false;
   std::array<GameStat, kTeamLine + 1> Stats{};
   std::array<int, kDepthEntries + 1> Depth{};
   // The remembered answers of DepthStatIndex, a cache only.

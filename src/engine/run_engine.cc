@@ -145,12 +145,14 @@ int Play(Game& game, DayResults& day, const GameRequest& request, std::string& b
   game.Crowd = CrowdStrength(game);
   game.CourtEdge = request.CourtEdge;
   LoadCoachValues(game);
-  LoadRoster(game, Side::Home);
-  LoadRoster(game, Side::Away);
+  game.LiveGame = request.Live;
+  for (Side side : {Side::Home, Side::Away}) {
+    LoadRoster(game, side);
+    if (game.WantsText()) LoadFullTexts(game, side);
+  }
   BuildFloor(game);
   game.Home().Team().TeamName = request.HomeTeam;
   game.Away().Team().TeamName = request.AwayTeam;
-  game.LiveGame = request.Live;
   if (game.Away().UserTeam) {
     game.UserSide = Side::Away;
   } else if (game.Home().UserTeam) {

@@ -19,10 +19,11 @@ constexpr const char* kScrubChart =
 
 // The queries of the players who dress, their columns in the order
 // ReadPlayer reads them; the background table has no substitution pattern.
-// Team and TimeInjured are not read: the query fixes both.
+// Team and TimeInjured are not read: the query fixes both. Of the texts only
+// the short name: the others cost a fifth of the load, and most games show
+// none of them (LoadFullTexts reads them).
 std::string PlayerQuery(std::string_view pattern, std::string_view fromWhere) {
-  std::string sql =
-      "SELECT Id, Name, AbbrName, PlayerYear, PlayerPosition, AvoidInjury, Health, Intelligence";
+  std::string sql = "SELECT Id, AbbrName, PlayerPosition, AvoidInjury, Intelligence";
   for (const SkillColumn& skill : kSkillColumns) (sql += ", ") += skill.name;
   (((sql += ", ") += pattern) += " FROM ") += fromWhere;
   return sql;
@@ -34,6 +35,13 @@ const std::string kPlayers =
                 "Redshirt <> 1 ORDER BY Id");
 const std::string kScrubPlayers = PlayerQuery(
     "''", "ScrubPlayer WHERE Team = ? AND Inactive = 0 AND TimeInjured = 0 ORDER BY Id");
+
+// The full texts of every player of a school. Read without the roster's
+// conditions: a man hurt during the game no longer meets them.
+constexpr const char* kPlayerTexts =
+    "SELECT Id, Name, PlayerYear, Health FROM Player WHERE Team = ?";
+constexpr const char* kScrubPlayerTexts =
+    "SELECT Id, Name, PlayerYear, Health FROM ScrubPlayer WHERE Team = ?";
 
 // The side's offence and defence coach (by their roles) and its trainer;
 // NULL where the school has none.
@@ -57,13 +65,13 @@ void ReadPlayer(Rows& rows, const std::string& school, GamePlayer& p, PlayerText
   p = GamePlayer{};
   int c = 0;
   p.Id = rows.Int(c++);
-  rows.TextInto(c++, texts.Name);
   rows.TextInto(c++, texts.AbbrName);
-  rows.TextInto(c++, texts.PlayerYear);
+  texts.Name.clear();
+  texts.PlayerYear.clear();
+  texts.Health.clear();
   texts.Team = school;
   p.PlayerPosition = rows.Int(c++);
   p.AvoidInjury = rows.Int(c++);
-  rows.TextInto(c++, texts.Health);
   p.TimeInjured = 0;  // a player who dresses is not hurt
   p.Intelligence = rows.Int(c++);
   for (const SkillColumn& skill : kSkillColumns) p.*skill.field = rows.Int(c++);
@@ -119,7 +127,9 @@ void LoadRoster(Game& game, Side side) {
   GameSide& team = game.SideOf(side);
   Store& store = game.session->Db();
   team.RosterCount = 0;
+  team.FullTexts = false;
   for (const std::string* sql : {&kPlayers, &kScrubPlayers}) {
+    team.BackgroundRoster = sql == &kScrubPlayers;
     Rows rows = store.Query(*sql, team.School);
     // Design decision: a team with more eligible players than the game has
     // places dresses the first 12 in table order; the others sit the game out.
@@ -136,6 +146,25 @@ void LoadRoster(Game& game, Side side) {
     }
     if (team.RosterCount > 0) return;
   }
+}
+
+void LoadFullTexts(Game& game, Side side) {
+  GameSide& team = game.SideOf(side);
+  if (team.FullTexts) return;
+  Rows rows = game.session->Db().Query(team.BackgroundRoster ? kScrubPlayerTexts : kPlayerTexts,
+                                       team.School);
+  while (rows.Next()) {
+    const int id = rows.Int(0);
+    for (int i = 1; i <= team.RosterCount; ++i) {
+      if (team.Roster[i].Id != id) continue;
+      PlayerTexts& texts = team.Texts[i];
+      rows.TextInto(1, texts.Name);
+      rows.TextInto(2, texts.PlayerYear);
+      rows.TextInto(3, texts.Health);
+      break;
+    }
+  }
+  team.FullTexts = true;
 }
 
 }  // namespace courtmere

@@ -24,6 +24,12 @@ int CrowdStrength(const Game& game);
 
 // The side's eligible players, in table order: the first-division players
 // if the school has any, else its background players. At most 12 dress.
+// Of the texts it reads only the short names.
 void LoadRoster(Game& game, Side side);
+
+// Reads the name, year and health of the side's roster, once a game: for a
+// game that shows its plays, and for a dump. Health as the store has it, an
+// injury of this game included.
+void LoadFullTexts(Game& game, Side side);
 
 }  // namespace courtmere

@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "engine/box_score.h"
 #include "engine/debug_dump.h"
 #include "engine/run_engine.h"
+#include "engine/team_loader.h"
 #include "engine_fixture.h"
 
 namespace courtmere::testing {
@@ -76,6 +79,50 @@ TEST(RunEngineEntry, KeepsEachSidesLeaders) {
   EXPECT_GT(game.Leaders.Rebounds[1], 0);
 }
 
+// Every roster text of a side, in roster order: (name, year, health).
+std::vector<std::string> FullTexts(const GameSide& side) {
+  std::vector<std::string> texts;
+  for (int i = 1; i <= side.RosterCount; ++i) {
+    const PlayerTexts& t = side.Texts[i];
+    texts.push_back(t.Name + "|" + t.PlayerYear + "|" + t.Health);
+  }
+  return texts;
+}
+
+TEST(RunEngineEntry, OnlyAGameThatShowsItsPlaysReadsTheFullTexts) {
+  EngineFixture fixture(12);
+  fixture.AddScrubSchool("Hilltop College", 11, 50, 99);
+  Game game(fixture.session());
+  DayResults day;
+  ASSERT_EQ(fixture.Play(game, day, 0, false, true, "Hilltop College", kHomeSchool), 1);
+  for (const GameSide& side : game.sides) {
+    EXPECT_FALSE(side.FullTexts);
+    for (int i = 1; i <= side.RosterCount; ++i) {
+      EXPECT_EQ(side.Texts[i].AbbrName, "P. Pl" + std::to_string(side.Roster[i].Id));
+      EXPECT_EQ(FullTexts(side)[i - 1], "||");
+    }
+  }
+
+  // Read afterwards, a man hurt in the game is found, with his injury.
+  const int hurt = game.Away().Roster[2].Id;
+  fixture.store().Exec("UPDATE Player SET TimeInjured = 3, Health = 'Sprained Ankle' WHERE Id = ?",
+                       hurt);
+  LoadFullTexts(game, Side::Away);
+  EXPECT_EQ(FullTexts(game.Away())[1], "Pl" + std::to_string(hurt) + " Test|Junior|Sprained Ankle");
+  fixture.HealEveryone();
+
+  // With its log the same value reads them, a background roster's included.
+  ASSERT_EQ(fixture.Play(game, day, 1, true, true, "Hilltop College", kHomeSchool), 1);
+  for (const GameSide& side : game.sides) {
+    EXPECT_TRUE(side.FullTexts);
+    for (int i = 1; i <= side.RosterCount; ++i) {
+      const std::string name = "Pl" + std::to_string(side.Roster[i].Id) + " Test";
+      EXPECT_EQ(FullTexts(side)[i - 1], name + "|Junior|" + side.Texts[i].Health);
+      EXPECT_FALSE(side.Texts[i].Health.empty()) << name;
+    }
+  }
+}
+
 TEST(RunEngineEntry, DebugDumpWritesTheStateFile) {
   EngineFixture fixture(9);
   Game game(fixture.session());
@@ -87,8 +134,12 @@ TEST(RunEngineEntry, DebugDumpWritesTheStateFile) {
   EXPECT_TRUE(std::filesystem::exists(file));
   EXPECT_EQ(fixture.ui().Messages().back(),
             "The Debug file " + file.filename().string() + " has been created.");
+  // The game showed no plays; the dump reads the names it shows.
   const std::string text = DebugDumpText(game);
-  EXPECT_NE(text.find(std::string(kHomeSchool) + " Starters\n1. "), std::string::npos);
+  const std::string starter = game.Home().TextsOf(game.Home().Court[1]).Name;
+  EXPECT_FALSE(starter.empty());
+  EXPECT_NE(text.find(std::string(kHomeSchool) + " Starters\n1. " + starter + " ID: "),
+            std::string::npos);
   EXPECT_NE(text.find(", SubRate: Normal"), std::string::npos);
   EXPECT_NE(text.find(" Stats and Info\nID: "), std::string::npos);
 }
