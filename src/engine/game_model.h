@@ -44,7 +44,8 @@ const char* SubPatternText(SubPattern pattern);
 
 // One player as the game sees him: numbers only, so that the records the
 // floor, bench and reserve copy on every substitution are plain values. His
-// texts stand beside the roster (`GameSide::Texts`).
+// texts stand beside the roster (`GameSide::Texts`). Of his ratings the game
+// loads those its rules read: DefReb, OffReb and Jumping stay 0.
 struct GamePlayer : SkillRatings {
   int Id = 0;  // 0 in a floor slot: the slot is empty
   int PlayerPosition = 0;

@@ -17,6 +17,18 @@ constexpr const char* kScrubChart =
     "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
     "OffenseType, Defense, Press, TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?";
 
+// The ratings the rules read: all but DefReb, OffReb and Jumping, which
+// only feed the rebounding and shot-blocking ratings made from them.
+constexpr auto kGameSkillColumns = [] {
+  std::array<SkillColumn, kSkillColumns.size() - 3> columns{};
+  size_t n = 0;
+  for (const SkillColumn& skill : kSkillColumns) {
+    const std::string_view name = skill.name;
+    if (name != "DefReb" && name != "OffReb" && name != "Jumping") columns[n++] = skill;
+  }
+  return columns;
+}();
+
 // The queries of the players who dress, their columns in the order
 // ReadPlayer reads them; the background table has no substitution pattern.
 // Team and TimeInjured are not read: the query fixes both. Of the texts only
@@ -24,7 +36,7 @@ constexpr const char* kScrubChart =
 // none of them (LoadFullTexts reads them).
 std::string PlayerQuery(std::string_view pattern, std::string_view fromWhere) {
   std::string sql = "SELECT Id, AbbrName, PlayerPosition, AvoidInjury, Intelligence";
-  for (const SkillColumn& skill : kSkillColumns) (sql += ", ") += skill.name;
+  for (const SkillColumn& skill : kGameSkillColumns) (sql += ", ") += skill.name;
   (((sql += ", ") += pattern) += " FROM ") += fromWhere;
   return sql;
 }
@@ -74,7 +86,7 @@ void ReadPlayer(Rows& rows, const std::string& school, GamePlayer& p, PlayerText
   p.AvoidInjury = rows.Int(c++);
   p.TimeInjured = 0;  // a player who dresses is not hurt
   p.Intelligence = rows.Int(c++);
-  for (const SkillColumn& skill : kSkillColumns) p.*skill.field = rows.Int(c++);
+  for (const SkillColumn& skill : kGameSkillColumns) p.*skill.field = rows.Int(c++);
   p.Pattern = ParseSubPattern(rows.TextView(c));
 }
 
