@@ -17,8 +17,9 @@ constexpr const char* kScrubChart =
     "SELECT PG1, SG1, SF1, PF1, C1, PG2, SG2, SF2, PF2, C2, PG3, SG3, SF3, PF3, C3, Tempo, "
     "OffenseType, Defense, Press, TeamRating, Prestige FROM ScrubTeam WHERE SchoolName = ?";
 
-// The ratings the rules read: all but DefReb, OffReb and Jumping, which
-// only feed the rebounding and shot-blocking ratings made from them.
+// The ratings the rules read: all but DefReb, OffReb and Jumping. Those are
+// parts of the rebounding and shot-blocking ratings, which the rules read
+// whole; three columns fewer for each of 24 players is a tenth of the load.
 constexpr auto kGameSkillColumns = [] {
   std::array<SkillColumn, kSkillColumns.size() - 3> columns{};
   size_t n = 0;
