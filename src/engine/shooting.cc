@@ -224,8 +224,8 @@ int ShootDecision(Game& game, const GamePlayer& o, const GamePlayer& d) {
   const int r = rng.IntRnd(400, 1);
   if (game.Offense().Pace == 2 && game.ShotClock > 15) return 0;
 
-  // Beyond his range he shoots only as the shot clock runs out; with time
-  // left on both clocks he passes.
+  // Beyond his range he shoots only as the shot clock or the game runs out;
+  // with time left on both clocks he does not shoot.
   bool shoot = false;
   if (game.Distance > o.Range) {
     if (game.ShotClock < 5) {
