@@ -264,6 +264,11 @@ bool LeavesEarly(double overall, int potential, double gpa, int r) {
 
 constexpr int kMostEarlyLeavers = 51;
 
+// A junior-college man back in the pool keeps his Recruit row, and with it
+// the year he may sign in (InEligible), his test score, his choice and his
+// ranks, which later rules read. He gets a new first report, interest list
+// and statistics, and his school now reads as the junior college of his
+// area.
 void RenewReturningRecruit(Session& session, PlayerBatch& batch, int id) {
   Store& store = session.Db();
   Player p;
@@ -276,8 +281,8 @@ void RenewReturningRecruit(Session& session, PlayerBatch& batch, int id) {
     r.Area = rows.Text(1);
     r.RecruitType = rows.Text(2);
   }
-  // A fresh row: whatever the last season left on it is gone.
-  store.Exec("DELETE FROM Recruit WHERE Id = ?", id);
+  p.HighSchool = r.Area + " JC(" + p.HighSchool + ")";
+  store.Exec("UPDATE Player SET HighSchool = ? WHERE Id = ?", p.HighSchool, id);
   r.Id = id;
   r.ScoutingReport = RecruitReport(session.rng, p, 1);
   if (batch.recruitInterest) batch.recruitInterest(session, r, p);

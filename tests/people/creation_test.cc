@@ -225,31 +225,50 @@ TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", good), 0);
 }
 
-TEST(RegionRecruits, ReturningJuniorCollegeMenCountAgainstTheClass) {
+TEST(RegionRecruits, AReturningJuniorCollegeManKeepsHisYearAndCountsAgainstTheClass) {
   testing::LeagueFixture league(13);
   league.AddTeam("West U", "West", 70);
   league.AddPlayer("West U", kPG, 60, "Senior");
-  const int jc = league.AddPlayer("West", kC, 55, "JC");
+  const int jc = league.AddPlayer("West", kC, 55, "JCRecruit");
+  league.store().Exec("UPDATE Player SET HighSchool = 'Bay High' WHERE Id = ?", jc);
   league.store().Append("Recruit", {{"Id", int64_t{jc}},
                                     {"Region", "West"},
                                     {"Area", "CA"},
                                     {"RecruitType", "Good"},
-                                    {"TeamChoice", "Old U"},
-                                    {"InEligible", int64_t{2001}}});
+                                    {"ScoutingReport", "Old report."},
+                                    {"InEligible", int64_t{2001}},
+                                    {"TestScore", int64_t{42}},
+                                    {"RankPoints", 61.25},
+                                    {"PosRank", int64_t{3}},
+                                    {"Top50Rank", int64_t{17}}});
   PlayerBatch batch = PlayerBatch::Begin(league.session());
+  batch.recruitInterest = [](Session&, Recruit& r, const Player&) { r.Team1 = "West U"; };
   CreateRegionRecruits(league.session(), batch, "West");
   // N = 1 senior + 0 leavers + 5; one returns, five are new.
   EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'West'"), 6);
   EXPECT_EQ(league.store().RowCount("Recruit"), 6);
   Rows rows = league.store().Query(
-      "SELECT RecruitType, Area, InEligible, TeamChoice, ScoutingReport FROM Recruit WHERE Id = ?",
+      "SELECT RecruitType, Area, InEligible, TestScore, RankPoints, PosRank, Top50Rank, "
+      "TeamChoice, ScoutingReport, Team1, PPG FROM Recruit WHERE Id = ?",
       jc);
   ASSERT_TRUE(rows.Next());
   EXPECT_EQ(rows.Text(0), "Good");
   EXPECT_EQ(rows.Text(1), "CA");
-  EXPECT_EQ(rows.Int(2), 0);
-  EXPECT_TRUE(rows.IsNull(3));
-  EXPECT_NE(rows.Text(4), "");
+  // The year he may sign in, his test and his ranks stay: he can be signed
+  // this season and his row survives the clearing of the pool.
+  EXPECT_EQ(rows.Int(2), 2001);
+  EXPECT_EQ(rows.Int(3), 42);
+  EXPECT_DOUBLE_EQ(rows.Double(4), 61.25);
+  EXPECT_EQ(rows.Int(5), 3);
+  EXPECT_EQ(rows.Int(6), 17);
+  EXPECT_TRUE(rows.IsNull(7));
+  // A new first report, interest list and statistics.
+  EXPECT_NE(rows.Text(8), "Old report.");
+  EXPECT_NE(rows.Text(8), "");
+  EXPECT_EQ(rows.Text(9), "West U");
+  EXPECT_GT(rows.Double(10), 0);
+  EXPECT_EQ(league.store().ScalarText("SELECT HighSchool FROM Player WHERE Id = ?", jc),
+            "CA JC(Bay High)");
 }
 
 TEST(CreateScrubTeamRoster, ThirteenBackgroundPlayersWithoutSideRows) {
