@@ -39,12 +39,15 @@ void ExpectConsistent(const Player& stored) {
   EXPECT_DOUBLE_EQ(p.Overall, stored.Overall);
 }
 
+// What holds for every player of a roster whatever his class and years; the
+// builders' tests pin each span. The twelve ratings that develop start at
+// 25 at least and are capped at 100 after the last year.
 void ExpectInRange(const Player& p) {
   for (int Player::*r :
        {&Player::Jumpshot, &Player::InScoring, &Player::ThreePoint, &Player::PerrDefense,
         &Player::PostDefense, &Player::DefReb, &Player::OffReb, &Player::Handling,
         &Player::OffAware, &Player::DefAware, &Player::Passing, &Player::Strength}) {
-    EXPECT_GE(p.*r, 15) << p.Id;
+    EXPECT_GE(p.*r, 25) << p.Id;
     EXPECT_LE(p.*r, 100) << p.Id;
   }
   EXPECT_GE(p.Quickness, 20);
@@ -192,8 +195,20 @@ TEST(CreatePlayers, WithNoPositionBelowTheCapTheRollIsTakenAsItCame) {
   testing::LeagueFixture league(9);
   PlayerBatch batch = PlayerBatch::Begin(league.session());
   for (int position = kPG; position <= kC; ++position) batch.positions[position] = 1;
-  CreatePlayers(league.session(), batch, "Team A", "East", 50, 20, 1, 1);
-  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Team A'"), 20);
+  CreatePlayers(league.session(), batch, "Team A", "East", 50, 60, 1, 1);
+  // Each man is built at the position of his own roll, with its height.
+  const std::array<std::pair<int, int>, 6> heights = {
+      {{0, 0}, {68, 74}, {73, 77}, {75, 80}, {77, 82}, {79, 86}}};
+  std::array<int, 6> made{};
+  for (const Player& p : PlayersOf(league.store(), "Team A")) {
+    ++made[p.PlayerPosition];
+    EXPECT_GE(p.Reach, heights[p.PlayerPosition].first) << p.PlayerPosition;
+    EXPECT_LE(p.Reach, heights[p.PlayerPosition].second) << p.PlayerPosition;
+  }
+  for (int position = kPG; position <= kC; ++position) {
+    EXPECT_GT(made[position], 1) << position;
+    EXPECT_EQ(batch.positions[position], 1 + made[position]);
+  }
 }
 
 TEST(AddWalkOns, FillsShortRostersWithSeniors) {
@@ -223,6 +238,25 @@ TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
   EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 2 + 1 + 5);
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", star), 1);
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", good), 0);
+}
+
+TEST(RegionRecruits, ARegionHoldsFiftyOneEarlyLeaversAtMostTheBestOnes) {
+  testing::LeagueFixture league(15);
+  league.AddTeam("West U", "West", 70);
+  league.AddTeam("West State", "West", 70);
+  std::vector<int> ids;
+  for (int i = 0; i < 60; ++i) {
+    // All above 86, so each would leave; the best come first.
+    ids.push_back(
+        league.AddPlayer(i % 2 == 0 ? "West U" : "West State", kSF, 87 + i * 0.1, "Sophomore"));
+  }
+  league.AddPlayer("West U", kPG, 60, "Senior");
+  EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 1 + 51 + 5);
+  for (int i = 0; i < 60; ++i) {
+    EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", ids[i]),
+              i >= 9 ? 1 : 0)
+        << i;
+  }
 }
 
 TEST(RegionRecruits, AReturningJuniorCollegeManKeepsHisYearAndCountsAgainstTheClass) {
