@@ -1,5 +1,7 @@
 #include "season/exhibition_series.h"
 
+#include <algorithm>
+
 #include "cpu/computer_roster.h"
 #include "engine/post_game.h"
 #include "engine/run_engine.h"
@@ -32,14 +34,44 @@ PlayerStatsStore SeasonStore(Store& store, const ExhibitionSeries& series) {
   return stats;
 }
 
-GameRequest RequestFor(const Session& session, const ExhibitionSeries& series, int number) {
+// Everything one series works with.
+struct SeriesRun {
+  Session& session;
+  const ExhibitionSeries& series;
+  const std::function<void(const SeriesGame&)>& afterGame;
+  PlayerStatsStore stats;
+  DayResults day;
+  Game game;
+};
+
+GameRequest RequestFor(const SeriesRun& run, int number) {
   GameRequest request;
-  request.HomeTeam = series.home;
-  request.AwayTeam = series.away;
+  request.HomeTeam = run.series.home;
+  request.AwayTeam = run.series.away;
   request.GameType = "Exhibition";
-  request.BatchIndex = (number - 1) % 150 + 1;
-  request.GameNo = session.config.MaxGameNo + 1;
+  request.BatchIndex = (number - 1) % kSeriesGamesPerBatch + 1;
+  request.GameNo = run.session.config.MaxGameNo + 1;
   return request;
+}
+
+// Plays and records game `number`, with the lineup pass before it and the
+// week's healing after it; false when it could not be played.
+bool PlaySeriesGame(SeriesRun& run, int number) {
+  Session& session = run.session;
+  // The day's lineup pass: a computer team whose chart an injury cleared
+  // gets a new one from its healthy men.
+  SetCPURoster(session);
+  const GameRequest request = RequestFor(run, number);
+  SeriesGame played{number, &run.game, "", run.series.log ? "log" : "none"};
+  // When the game cannot be played the engine has said why.
+  if (RunEngine(run.game, run.day, request, played.boxFile, played.logFile) != 1) return false;
+  RecordPlayerStats(run.day, run.stats, session.config, request.BatchIndex);
+  RecordTeamStats(session.Db(), run.day, request.BatchIndex);
+  session.config.MaxGameNo = request.GameNo;
+  SaveConfig(session.Db(), session.config);
+  if (number % kSeriesGamesPerWeek == 0) HealInjuries(session);
+  run.afterGame(played);
+  return true;
 }
 
 }  // namespace
@@ -48,30 +80,22 @@ int PlayExhibitionSeries(Session& session, const ExhibitionSeries& series,
                          const std::function<void(const SeriesGame&)>& afterGame) {
   Store& store = session.Db();
   session.config = LoadConfig(store);
-  PlayerStatsStore stats = SeasonStore(store, series);
-  DayResults day;
-  Game game(session);
-  for (int number = 1; number <= series.games; ++number) {
+  SeriesRun run{session,      series,       afterGame, SeasonStore(store, series),
+                DayResults(), Game(session)};
+  int played = 0;
+  bool stopped = false;
+  while (played < series.games && !stopped) {
     Store::Transaction tx(store);
-    // The day's lineup pass: a computer team whose chart an injury cleared
-    // gets a new one from its healthy men.
-    SetCPURoster(session);
-    const GameRequest request = RequestFor(session, series, number);
-    SeriesGame played{number, &game, "", series.log ? "log" : "none"};
-    if (RunEngine(game, day, request, played.boxFile, played.logFile) != 1) {
-      // The engine has said why; the repairs it tried stay.
-      tx.Commit();
-      return number - 1;
+    const int batchEnd = std::min(series.games, played + kSeriesGamesPerBatch);
+    while (played < batchEnd && !stopped) {
+      stopped = !PlaySeriesGame(run, played + 1);
+      if (!stopped) ++played;
     }
-    RecordPlayerStats(day, stats, session.config, request.BatchIndex);
-    RecordTeamStats(store, day, request.BatchIndex);
-    session.config.MaxGameNo = request.GameNo;
-    SaveConfig(store, session.config);
-    if (number % kSeriesGamesPerWeek == 0) HealInjuries(session);
+    // A stopped batch keeps its games, and the chart repairs the engine
+    // tried.
     tx.Commit();
-    afterGame(played);
   }
-  return series.games;
+  return played;
 }
 
 }  // namespace courtmere

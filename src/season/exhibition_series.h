@@ -33,12 +33,14 @@ struct SeriesGame {
 // Two games make a week of the series, as two game days make a week of the
 // regular season: the injured heal after every second game.
 inline constexpr int kSeriesGamesPerWeek = 2;
+// The games go to the store in batches of what the day's result tables
+// hold, one transaction each: after 150 games their places are used again.
+inline constexpr int kSeriesGamesPerBatch = 150;
 
-// Plays the series, calling `afterGame` after each game. Each game, with
-// the lineup pass before it, its recording and the week's healing, is one
-// transaction. Returns the number of games played: all of them, or fewer
-// when a school could not field a team, which the engine has told the user
-// ("Please set the depth chart for ..."); the games before stay recorded.
+// Plays the series, calling `afterGame` after each game has been recorded.
+// Returns the number of games played: all of them, or fewer when a school
+// could not field a team, which the engine has told the user ("Please set
+// the depth chart for ..."); the games before stay recorded.
 int PlayExhibitionSeries(Session& session, const ExhibitionSeries& series,
                          const std::function<void(const SeriesGame&)>& afterGame);
 
