@@ -30,11 +30,13 @@ struct SeriesGame {
   std::string logFile;  // "none" without a log
 };
 
-// Two games make a week of the series, as two game days make a week of the
-// regular season: the injured heal after every second game.
+// Design decision: two games make a week of the series, as two game days
+// make a week of the regular season, so the injured heal after every second
+// game. Healing after each game would shorten every injury by half.
 inline constexpr int kSeriesGamesPerWeek = 2;
-// The games go to the store in batches of what the day's result tables
-// hold, one transaction each: after 150 games their places are used again.
+// Design decision: the games go to the store in batches of what the day's
+// result tables hold, one transaction each, as a day's batch does: after
+// 150 games their places are used again.
 inline constexpr int kSeriesGamesPerBatch = 150;
 
 // Plays the series, calling `afterGame` after each game has been recorded.
