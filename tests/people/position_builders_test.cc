@@ -29,13 +29,11 @@ struct RatingRow {
   const char* name;
   ByClass spans;
 };
-#define ROW(field, ...)               \
-  RatingRow {                         \
-    &Player::field, #field, ByClass { \
-      { __VA_ARGS__ }                 \
-    }                                 \
-  }
-#define ANY(field, m, a) ROW(field, {m, a}, {m, a}, {m, a}, {m, a})
+
+// A rating drawn from the same span whatever the class.
+RatingRow Any(int Player::*rating, const char* name, int m, int a) {
+  return {rating, name, {{{m, a}, {m, a}, {m, a}, {m, a}}}};
+}
 
 constexpr ByClass kPrime = {{{7, 70}, {17, 60}, {30, 45}, {30, 35}}};
 constexpr ByClass kSecond = {{{12, 65}, {22, 55}, {35, 40}, {35, 30}}};
@@ -81,92 +79,107 @@ void ExpectSpans(int position, int height, const std::vector<RatingRow>& rows) {
 
 TEST(BuildPG, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kPG, 72,
-              {ROW(Handling, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Passing, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Quickness, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(PerrDefense, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(ThreePoint, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(Jumpshot, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(OffAware, {17, 60}, {30, 45}, {40, 30}, {40, 25}),
-               ROW(DefAware, {27, 50}, {30, 40}, {40, 30}, {40, 25}),
-               ROW(InScoring, {25, 45}, {25, 40}, {30, 35}, {30, 30}),
-               ROW(Potential, kPotential[0], kPotential[1], kPotential[2], kPotential[3]),
-               ANY(DefReb, 15, 30), ANY(OffReb, 15, 30), ANY(Jumping, 35, 35),
-               ANY(Strength, 15, 30), ANY(PostDefense, 25, 25), ANY(Range, 4, 20)});
+              {{&Player::Handling, "Handling", kPrime},
+               {&Player::Passing, "Passing", kPrime},
+               {&Player::Quickness, "Quickness", kPrime},
+               {&Player::PerrDefense, "PerrDefense", kPrime},
+               {&Player::ThreePoint, "ThreePoint", kSecond},
+               {&Player::Jumpshot, "Jumpshot", kSecond},
+               {&Player::OffAware, "OffAware", {{{17, 60}, {30, 45}, {40, 30}, {40, 25}}}},
+               {&Player::DefAware, "DefAware", {{{27, 50}, {30, 40}, {40, 30}, {40, 25}}}},
+               {&Player::InScoring, "InScoring", {{{25, 45}, {25, 40}, {30, 35}, {30, 30}}}},
+               {&Player::Potential, "Potential", kPotential},
+               Any(&Player::DefReb, "DefReb", 15, 30),
+               Any(&Player::OffReb, "OffReb", 15, 30),
+               Any(&Player::Jumping, "Jumping", 35, 35),
+               Any(&Player::Strength, "Strength", 15, 30),
+               Any(&Player::PostDefense, "PostDefense", 25, 25),
+               Any(&Player::Range, "Range", 4, 20)});
   // From 73 inches the rebounding skills take the taller span.
-  ExpectSpans(kPG, 73, {ANY(DefReb, 25, 40), ANY(OffReb, 25, 40)});
+  ExpectSpans(kPG, 73,
+              {Any(&Player::DefReb, "DefReb", 25, 40), Any(&Player::OffReb, "OffReb", 25, 40)});
 }
 
 TEST(BuildSG, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kSG, 73,
-              {ROW(ThreePoint, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Jumpshot, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Quickness, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(PerrDefense, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Handling, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(Passing, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(InScoring, {20, 50}, {25, 45}, {25, 40}, {25, 35}),
-               ROW(OffAware, {22, 55}, {30, 45}, {40, 30}, {40, 25}),
-               ROW(DefAware, {27, 50}, {30, 40}, {40, 30}, {40, 25}),
-               ROW(Potential, kPotential[0], kPotential[1], kPotential[2], kPotential[3]),
-               ANY(DefReb, 15, 35), ANY(OffReb, 15, 35), ANY(Jumping, 30, 40),
-               ANY(Strength, 20, 35), ANY(PostDefense, 25, 30), ANY(Range, 3, 21)});
-  ExpectSpans(kSG, 74, {ANY(DefReb, 25, 45), ANY(OffReb, 25, 45)});
+              {{&Player::ThreePoint, "ThreePoint", kPrime},
+               {&Player::Jumpshot, "Jumpshot", kPrime},
+               {&Player::Quickness, "Quickness", kPrime},
+               {&Player::PerrDefense, "PerrDefense", kPrime},
+               {&Player::Handling, "Handling", kSecond},
+               {&Player::Passing, "Passing", kSecond},
+               {&Player::InScoring, "InScoring", {{{20, 50}, {25, 45}, {25, 40}, {25, 35}}}},
+               {&Player::OffAware, "OffAware", {{{22, 55}, {30, 45}, {40, 30}, {40, 25}}}},
+               {&Player::DefAware, "DefAware", {{{27, 50}, {30, 40}, {40, 30}, {40, 25}}}},
+               {&Player::Potential, "Potential", kPotential},
+               Any(&Player::DefReb, "DefReb", 15, 35),
+               Any(&Player::OffReb, "OffReb", 15, 35),
+               Any(&Player::Jumping, "Jumping", 30, 40),
+               Any(&Player::Strength, "Strength", 20, 35),
+               Any(&Player::PostDefense, "PostDefense", 25, 30),
+               Any(&Player::Range, "Range", 3, 21)});
+  ExpectSpans(kSG, 74,
+              {Any(&Player::DefReb, "DefReb", 25, 45), Any(&Player::OffReb, "OffReb", 25, 45)});
 }
 
 TEST(BuildSF, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kSF, 77,
-              {ROW(Jumpshot, {17, 60}, {20, 50}, {20, 45}, {30, 35}),
-               ROW(OffReb, {20, 55}, {20, 50}, {20, 45}, {30, 35}),
-               ROW(PerrDefense, {17, 60}, {20, 50}, {25, 45}, {30, 35}),
-               ROW(OffAware, {17, 60}, {27, 50}, {30, 45}, {30, 35}),
-               ROW(DefAware, {12, 65}, {20, 55}, {35, 40}, {35, 30}),
-               ROW(Jumping, {12, 65}, {20, 55}, {35, 40}, {35, 30}),
-               ROW(Quickness, {20, 55}, {25, 45}, {30, 40}, {35, 30}),
-               ROW(InScoring, {15, 50}, {20, 45}, {25, 35}, {30, 30}),
-               ROW(ThreePoint, {15, 50}, {20, 45}, {20, 40}, {30, 30}),
-               ROW(DefReb, {15, 55}, {15, 50}, {20, 40}, {20, 35}),
-               ROW(Passing, {20, 50}, {15, 50}, {25, 40}, {30, 35}),
-               ROW(PostDefense, {15, 50}, {20, 45}, {20, 40}, {30, 25}),
-               ROW(Handling, {15, 50}, {15, 50}, {20, 40}, {30, 30}),
-               ROW(Potential, kPotential[0], kPotential[1], kPotential[2], kPotential[3]),
-               ANY(Strength, 20, 35)});
+              {{&Player::Jumpshot, "Jumpshot", {{{17, 60}, {20, 50}, {20, 45}, {30, 35}}}},
+               {&Player::OffReb, "OffReb", {{{20, 55}, {20, 50}, {20, 45}, {30, 35}}}},
+               {&Player::PerrDefense, "PerrDefense", {{{17, 60}, {20, 50}, {25, 45}, {30, 35}}}},
+               {&Player::OffAware, "OffAware", {{{17, 60}, {27, 50}, {30, 45}, {30, 35}}}},
+               {&Player::DefAware, "DefAware", {{{12, 65}, {20, 55}, {35, 40}, {35, 30}}}},
+               {&Player::Jumping, "Jumping", {{{12, 65}, {20, 55}, {35, 40}, {35, 30}}}},
+               {&Player::Quickness, "Quickness", {{{20, 55}, {25, 45}, {30, 40}, {35, 30}}}},
+               {&Player::InScoring, "InScoring", {{{15, 50}, {20, 45}, {25, 35}, {30, 30}}}},
+               {&Player::ThreePoint, "ThreePoint", {{{15, 50}, {20, 45}, {20, 40}, {30, 30}}}},
+               {&Player::DefReb, "DefReb", {{{15, 55}, {15, 50}, {20, 40}, {20, 35}}}},
+               {&Player::Passing, "Passing", {{{20, 50}, {15, 50}, {25, 40}, {30, 35}}}},
+               {&Player::PostDefense, "PostDefense", {{{15, 50}, {20, 45}, {20, 40}, {30, 25}}}},
+               {&Player::Handling, "Handling", {{{15, 50}, {15, 50}, {20, 40}, {30, 30}}}},
+               {&Player::Potential, "Potential", kPotential},
+               Any(&Player::Strength, "Strength", 20, 35)});
 }
 
 TEST(BuildPF, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kPF, 83,
-              {ROW(InScoring, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(OffReb, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(DefReb, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(PostDefense, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Jumping, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(Jumpshot, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(OffAware, {12, 60}, {17, 60}, {30, 45}, {30, 35}),
-               ROW(DefAware, {17, 65}, {22, 55}, {35, 40}, {35, 30}),
-               ROW(Passing, {20, 55}, {25, 50}, {30, 40}, {30, 30}),
-               ROW(PerrDefense, {15, 55}, {20, 50}, {20, 40}, {25, 30}),
-               ROW(Potential, kPotential[0], kPotential[1], kPotential[2], kPotential[3]),
-               ANY(Quickness, 20, 40), ANY(ThreePoint, 30, 30), ANY(Handling, 20, 40),
-               ANY(Strength, 35, 40)});
+              {{&Player::InScoring, "InScoring", kPrime},
+               {&Player::OffReb, "OffReb", kPrime},
+               {&Player::DefReb, "DefReb", kPrime},
+               {&Player::PostDefense, "PostDefense", kPrime},
+               {&Player::Jumping, "Jumping", kSecond},
+               {&Player::Jumpshot, "Jumpshot", kSecond},
+               {&Player::OffAware, "OffAware", {{{12, 60}, {17, 60}, {30, 45}, {30, 35}}}},
+               {&Player::DefAware, "DefAware", {{{17, 65}, {22, 55}, {35, 40}, {35, 30}}}},
+               {&Player::Passing, "Passing", {{{20, 55}, {25, 50}, {30, 40}, {30, 30}}}},
+               {&Player::PerrDefense, "PerrDefense", {{{15, 55}, {20, 50}, {20, 40}, {25, 30}}}},
+               {&Player::Potential, "Potential", kPotential},
+               Any(&Player::Quickness, "Quickness", 20, 40),
+               Any(&Player::ThreePoint, "ThreePoint", 30, 30),
+               Any(&Player::Handling, "Handling", 20, 40),
+               Any(&Player::Strength, "Strength", 35, 40)});
   // From 84 inches the handling takes the shorter span.
-  ExpectSpans(kPF, 84, {ANY(Handling, 20, 25)});
+  ExpectSpans(kPF, 84, {Any(&Player::Handling, "Handling", 20, 25)});
 }
 
 TEST(BuildC, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kC, 83,
-              {ROW(InScoring, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(OffReb, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(DefReb, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(PostDefense, kPrime[0], kPrime[1], kPrime[2], kPrime[3]),
-               ROW(Strength, {12, 65}, {17, 60}, {30, 45}, {30, 35}),
-               ROW(Jumping, kSecond[0], kSecond[1], kSecond[2], kSecond[3]),
-               ROW(OffAware, {12, 60}, {17, 60}, {30, 45}, {30, 35}),
-               ROW(DefAware, {17, 65}, {22, 55}, {35, 40}, {35, 30}),
-               ROW(Passing, {20, 55}, {25, 50}, {30, 40}, {30, 30}),
-               ROW(Jumpshot, {20, 55}, {25, 50}, {30, 40}, {30, 30}),
-               ROW(Potential, {12, 75}, {20, 60}, {20, 50}, {20, 30}), ANY(Handling, 20, 40),
-               ANY(Quickness, 30, 30), ANY(ThreePoint, 30, 25), ANY(PerrDefense, 25, 30)});
-  ExpectSpans(kC, 84, {ANY(Handling, 20, 25)});
+              {{&Player::InScoring, "InScoring", kPrime},
+               {&Player::OffReb, "OffReb", kPrime},
+               {&Player::DefReb, "DefReb", kPrime},
+               {&Player::PostDefense, "PostDefense", kPrime},
+               {&Player::Strength, "Strength", {{{12, 65}, {17, 60}, {30, 45}, {30, 35}}}},
+               {&Player::Jumping, "Jumping", kSecond},
+               {&Player::OffAware, "OffAware", {{{12, 60}, {17, 60}, {30, 45}, {30, 35}}}},
+               {&Player::DefAware, "DefAware", {{{17, 65}, {22, 55}, {35, 40}, {35, 30}}}},
+               {&Player::Passing, "Passing", {{{20, 55}, {25, 50}, {30, 40}, {30, 30}}}},
+               {&Player::Jumpshot, "Jumpshot", {{{20, 55}, {25, 50}, {30, 40}, {30, 30}}}},
+               {&Player::Potential, "Potential", {{{12, 75}, {20, 60}, {20, 50}, {20, 30}}}},
+               Any(&Player::Handling, "Handling", 20, 40),
+               Any(&Player::Quickness, "Quickness", 30, 30),
+               Any(&Player::ThreePoint, "ThreePoint", 30, 25),
+               Any(&Player::PerrDefense, "PerrDefense", 25, 30)});
+  ExpectSpans(kC, 84, {Any(&Player::Handling, "Handling", 20, 25)});
 }
 
 // The spans of a rating that hangs on another one, by the other's band.
