@@ -11,6 +11,7 @@
 #include "platform/rng.h"
 #include "platform/ui.h"
 #include "store/config.h"
+#include "store/inbox.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -23,6 +24,7 @@ struct Session {
   Ui& ui;
   std::unique_ptr<Store> store;  // null while the store is closed
   Config config;
+  Inbox inbox;  // the current week's messages to the user
 
   Store& Db() { return *store; }
   bool StoreOpen() const { return store != nullptr; }
