@@ -4,6 +4,7 @@
 #include "league/league_setup.h"
 #include "store/session.h"
 #include "store/store_files.h"
+#include "store/upgrade_store.h"
 
 namespace courtmere {
 
@@ -13,6 +14,7 @@ bool BeginNewDynasty(Session& session) {
   }
   if (!session.StoreOpen()) OpenStore(session, 0);
   session.ui.ShowProgress("Clearing Old Season");
+  UpgradeStore(session);
   Store& store = session.Db();
   Store::Transaction tx(store);
   ClearDynasty(store);

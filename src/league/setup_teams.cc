@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "league/final_offseason_tasks.h"
-#include "league/record_books.h"
 #include "league/scrub_teams.h"
 #include "league/team_ratings.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "store/record_books.h"
 #include "store/session.h"
 
 namespace courtmere {
