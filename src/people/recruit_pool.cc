@@ -200,6 +200,7 @@ RecruitInterestHook RecruitInterestFromStore() {
 
 void RankRecruitsByPosition(Session& session, int position) {
   Store& store = session.Db();
+  Store::Transaction tx(store);
   const int64_t year = CurrentYear(store);
   std::vector<RankRow> recruits;
   for (Rows rows = store.Query(
@@ -220,16 +221,19 @@ void RankRecruitsByPosition(Session& session, int position) {
              "Player.PlayerPosition = ? AND (Recruit.InEligible = 0 OR Recruit.InEligible = ?) "
              "ORDER BY Recruit.RankPoints DESC, Recruit.Id",
              position, year);
+  tx.Commit();
 }
 
 // The top 50 takes the RankPoints of the last ranking by position as they
 // stand, so the two lists agree on the order of any two recruits.
 void RankTop50Recruits(Session& session) {
   Store& store = session.Db();
+  Store::Transaction tx(store);
   WriteRanks(store, "Top50Rank", kTopRanks,
              "SELECT Id FROM Recruit WHERE InEligible = 0 OR InEligible = ? "
              "ORDER BY RankPoints DESC, Id",
              CurrentYear(store));
+  tx.Commit();
 }
 
 void RankRecruitPool(Session& session) {
