@@ -4,6 +4,7 @@
 
 #include "cli_context.h"
 #include "league/start_season.h"
+#include "text_table.h"
 
 namespace courtmere::cli {
 
@@ -24,12 +25,19 @@ void RunStartSeason(CliContext& context) {
   const Config& c = session.config;
   fmt::print("Season {} started at {}: week {}, {}, stage {}\n", c.CurrYear, school, c.CurrWeek,
              c.CurrDay, c.Stage);
-  fmt::print("Recruits {}, walk-ons {}\n",
-             store.ScalarInt("SELECT count(*) FROM Recruit").value_or(0),
-             store
-                 .ScalarInt("SELECT count(*) FROM Player WHERE PlayerYear = 'Senior' AND "
-                            "Id >= (SELECT min(Id) FROM Recruit)")
-                 .value_or(0));
+  TextTable pool;
+  pool.AddColumn("Region", "", TextTable::kLeft);
+  pool.AddColumn("Recruits", "", TextTable::kRight);
+  for (Rows rows = store.Query(
+           "SELECT Region, count(*) FROM Recruit GROUP BY Region ORDER BY CASE Region WHEN 'West' "
+           "THEN 1 WHEN 'Midwest' THEN 2 WHEN 'East' THEN 3 ELSE 4 END");
+       rows.Next();) {
+    pool.AddRow({rows.Text(0), rows.Text(1)});
+  }
+  fmt::print("\n{}", pool.Render());
+  fmt::print(
+      "\nScholarships to offer: {}\n",
+      store.ScalarInt("SELECT Scholarships FROM Team WHERE SchoolName = ?", school).value_or(0));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "league/team_ratings.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "schedule/league_schedule.h"
 #include "store/record_books.h"
 #include "store/session.h"
 
@@ -83,6 +84,7 @@ void FinalizeSeasonSetup(Session& session) {
   store.Exec("INSERT INTO Ranking (SchoolName) SELECT SchoolName FROM Team ORDER BY rowid");
   ScrubTeamRatings(session);
   store.Exec("INSERT INTO Ranking (SchoolName) SELECT SchoolName FROM ScrubTeam ORDER BY rowid");
+  BuildLeagueSchedules(session);
 }
 
 }  // namespace
@@ -99,6 +101,7 @@ void SetupTeams(Session& session, const std::string& school) {
              LoadConfig(store).CurrYear, school);
   FinalOffseasonTasks(session);
   tx.Commit();
+  session.config = LoadConfig(store);
 }
 
 }  // namespace courtmere

@@ -9,6 +9,7 @@
 #include "league/season_letter.h"
 #include "people/player_creation.h"
 #include "people/recruit_pool.h"
+#include "schedule/challenge_games.h"
 #include "store/session.h"
 #include "store/store_files.h"
 
@@ -62,6 +63,7 @@ void OpenSeason(Session& session, const std::string& school) {
   PlayerBatch batch = PlayerBatch::Begin(session);
   CreateRecruitPool(session, batch);
   Status(session, "Creating Schedule");
+  BuildChallengeGames(session);
   store.Exec("INSERT INTO TeamRecruit (Team) VALUES (?)", school);
   Status(session, "Ranking Teams");
   UpdateScheduleStrength(session);
