@@ -1,6 +1,9 @@
 #include "cli_context.h"
 
+#include <algorithm>
+
 #include "league/head_coach.h"
+#include "league/standings.h"
 #include "store/store_files.h"
 
 namespace courtmere::cli {
@@ -22,6 +25,14 @@ std::string RequireDynasty(Session& session) {
     throw Refusal{};
   }
   return school;
+}
+
+void RequireConference(Session& session, const std::string& conference) {
+  const std::vector<std::string> names = StandingsConferences(session.Db());
+  if (std::find(names.begin(), names.end(), conference) == names.end()) {
+    session.ui.Message("League not found");
+    throw Refusal{};
+  }
 }
 
 }  // namespace courtmere::cli

@@ -32,6 +32,10 @@ struct Refusal {};
 // message and a Refusal.
 std::string RequireDynasty(Session& session);
 
+// A conference of the dynasty, or the message "League not found" and a
+// Refusal.
+void RequireConference(Session& session, const std::string& conference);
+
 // Each command adds itself to the app; its callback runs the command.
 void AddInitCommand(CLI::App& app, CliContext& context);
 void AddExhibitionCommand(CLI::App& app, CliContext& context);

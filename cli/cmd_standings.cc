@@ -1,8 +1,6 @@
 // courtmere-cli standings: a conference's standings, or the nation's.
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "cli_context.h"
 #include "league/standings.h"
 #include "text_table.h"
@@ -51,20 +49,14 @@ void RunStandings(CliContext& context, const std::string& conference) {
   RequireDynasty(session);
   Store& store = session.Db();
   const bool national = conference.empty();
-  if (!national) {
-    const auto names = StandingsConferences(store);
-    if (std::find(names.begin(), names.end(), conference) == names.end()) {
-      session.ui.Message("League not found");
-      throw Refusal{};
-    }
-  }
+  if (!national) RequireConference(session, conference);
   const Standings s = national ? NationalStandings(store) : ConferenceStandings(store, conference);
   const Config& c = session.config;
   fmt::print("{}: week {}, {}, {}, stage {}\n", s.Title, c.CurrWeek, c.CurrDay, c.CurrYear,
              c.Stage);
-  for (size_t i = 0; i < s.Tables.size(); ++i) {
+  for (const StandingsTable& table : s.Tables) {
     fmt::print("\n");
-    PrintTable(s.Tables[i], national);
+    PrintTable(table, national);
   }
   fmt::print("\n* your school\n");
 }

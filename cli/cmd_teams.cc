@@ -2,11 +2,8 @@
 // and owner.
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "cli_context.h"
 #include "league/prestige_bands.h"
-#include "league/standings.h"
 #include "text_table.h"
 
 namespace courtmere::cli {
@@ -17,13 +14,7 @@ void RunTeams(CliContext& context, const std::string& conference) {
   Session& session = context.StartSession();
   RequireDynasty(session);
   Store& store = session.Db();
-  if (!conference.empty()) {
-    const auto names = StandingsConferences(store);
-    if (std::find(names.begin(), names.end(), conference) == names.end()) {
-      session.ui.Message("League not found");
-      throw Refusal{};
-    }
-  }
+  if (!conference.empty()) RequireConference(session, conference);
   TextTable table;
   table.AddColumn("School", "", TextTable::kLeft);
   table.AddColumn("Conference", "", TextTable::kLeft);

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "league/league_constants.h"
 #include "people/player_creation.h"
 #include "platform/numeric.h"
 #include "platform/rng.h"
@@ -11,8 +12,6 @@
 namespace courtmere {
 
 namespace {
-
-constexpr int kRosterSize = 13;
 
 struct LowSchool {
   std::string SchoolName;

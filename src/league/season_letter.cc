@@ -5,14 +5,13 @@
 #include <array>
 
 #include "league/head_coach.h"
+#include "league/league_constants.h"
 #include "store/session.h"
 
 namespace courtmere {
 
 namespace {
 
-constexpr int kRosterSize = 13;
-constexpr int kMostScholarships = 5;
 constexpr const char* kBreak = "\n\n";
 
 constexpr std::array<const char*, 5> kWelcome = {

@@ -5,6 +5,7 @@
 
 #include "league/final_offseason_tasks.h"
 #include "league/scrub_teams.h"
+#include "league/status.h"
 #include "league/team_ratings.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
@@ -16,21 +17,16 @@ namespace courtmere {
 
 namespace {
 
-void Status(Session& session, const char* caption) {
-  session.ui.ShowProgress(caption);
-  session.ui.Pump();
-}
-
 void CreateStaff(Session& session) {
   // Design decision: until its first rating a school's current prestige is
   // its starting prestige, so the staff of a new dynasty is drawn by each
   // school's standing (the prestige options have had their say by now).
   session.Db().Exec("UPDATE Team SET Prestige = InitialPrestige");
-  Status(session, "Creating Scouts");
+  ShowStatus(session, "Creating Scouts");
   CreateScouts(session, 0);
-  Status(session, "Creating Coaches");
+  ShowStatus(session, "Creating Coaches");
   CreateCoaches(session, 0);
-  Status(session, "Creating Trainers");
+  ShowStatus(session, "Creating Trainers");
   CreateTrainers(session, 0);
 }
 
@@ -41,7 +37,7 @@ struct RosterSeed {
 };
 
 void CreatePlayersOfAllTeams(Session& session) {
-  Status(session, "Creating Players");
+  ShowStatus(session, "Creating Players");
   Store& store = session.Db();
   CreateRecords(store);
   std::vector<RosterSeed> teams;
@@ -60,7 +56,7 @@ void CreatePlayersOfAllTeams(Session& session) {
 }
 
 void CreateBackgroundTeams(Session& session) {
-  Status(session, "Creating Background Teams");
+  ShowStatus(session, "Creating Background Teams");
   session.Db().Exec("DELETE FROM ScrubTeam");
   PlayerBatch batch = PlayerBatch::Begin(session);
   CreateScrubTeams(session);
@@ -76,7 +72,7 @@ void MarkUsersSchool(Session& session, const std::string& school) {
 }
 
 void FinalizeSeasonSetup(Session& session) {
-  Status(session, "Finalizing Season Setup");
+  ShowStatus(session, "Finalizing Season Setup");
   Store& store = session.Db();
   store.Exec("DELETE FROM TeamStats");
   TeamRatings(session);

@@ -7,6 +7,7 @@
 #include "league/head_coach.h"
 #include "league/schedule_strength.h"
 #include "league/season_letter.h"
+#include "league/status.h"
 #include "people/player_creation.h"
 #include "people/recruit_pool.h"
 #include "schedule/challenge_games.h"
@@ -19,11 +20,6 @@ namespace {
 
 constexpr int kNonConferenceGames = 4;
 constexpr int kCoaches = 3;
-
-void Status(Session& session, const char* caption) {
-  session.ui.ShowProgress(caption);
-  session.ui.Pump();
-}
 
 // The two conditions the user must meet; false after telling him which fails.
 bool ReadyToStart(Session& session, const std::string& school) {
@@ -47,11 +43,11 @@ bool ReadyToStart(Session& session, const std::string& school) {
 }
 
 void CreateRecruitPool(Session& session, PlayerBatch& batch) {
-  Status(session, "Creating Recruits");
+  ShowStatus(session, "Creating Recruits");
   batch.recruitInterest = RecruitInterestFromStore();
   CreateRecruitClasses(session, batch);
   batch.Save(session);
-  Status(session, "Ranking Recruits");
+  ShowStatus(session, "Ranking Recruits");
   RankRecruitPool(session);
   AddWalkOns(session, batch);
   batch.Save(session);
@@ -62,15 +58,15 @@ void OpenSeason(Session& session, const std::string& school) {
   ClearOldSeason(session);
   PlayerBatch batch = PlayerBatch::Begin(session);
   CreateRecruitPool(session, batch);
-  Status(session, "Creating Schedule");
+  ShowStatus(session, "Creating Schedule");
   BuildChallengeGames(session);
   store.Exec("INSERT INTO TeamRecruit (Team) VALUES (?)", school);
-  Status(session, "Ranking Teams");
+  ShowStatus(session, "Ranking Teams");
   UpdateScheduleStrength(session);
   // The compaction of "Loading Players" needs the store closed: it runs
   // once this season's transaction has committed.
-  Status(session, "Loading Players");
-  Status(session, "Assessing CPU rosters");
+  ShowStatus(session, "Loading Players");
+  ShowStatus(session, "Assessing CPU rosters");
   SetCPURoster(session);
   for (const char* folder : {"\\SaveGame", "\\log", "\\reports"})
     session.folder.EnsureFolder(folder);

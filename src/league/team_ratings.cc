@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "league/league_constants.h"
 #include "platform/numeric.h"
 #include "platform/rng.h"
 #include "store/session.h"
@@ -12,9 +13,6 @@
 namespace courtmere {
 
 namespace {
-
-constexpr int kRosterSize = 13;
-constexpr int kMostScholarships = 5;
 
 // One line of a band: when f is below (or above) `f`, Q moves by
 // sign * Int(Rnd * m + a).
@@ -156,8 +154,7 @@ double WinFractionCorrection(Rng& rng, double q, double f) {
 void TeamRatings(Session& session) {
   Store& store = session.Db();
   Store::Transaction tx(store);
-  const int year = static_cast<int>(
-      store.ScalarInt("SELECT CurrYear FROM Config WHERE IdConfig = 0").value_or(0));
+  const int year = LoadConfig(store).CurrYear;
   for (const TeamRow& t : LoadTeams(store)) RateTeam(session, t, year - 2001);
   tx.Commit();
 }

@@ -134,7 +134,7 @@ double DrawRankPoints(Rng& rng, double overall, int potential) {
 }
 
 int64_t CurrentYear(Store& store) {
-  return store.ScalarInt("SELECT CurrYear FROM Config WHERE IdConfig = 0").value_or(0);
+  return LoadConfig(store).CurrYear;
 }
 
 // Gives the first `count` recruits that the query returns, best first, the
