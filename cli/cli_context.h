@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/scripted_ui.h"
+#include "cli_ui.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -16,7 +16,7 @@ namespace courtmere::cli {
 struct CliContext {
   std::string home;              // --home; empty means the desktop program's folder
   std::optional<uint64_t> seed;  // --seed; fixed-seed mode when given
-  ScriptedUi ui{nullptr};
+  CliUi ui;
   std::unique_ptr<Session> session;
 
   // Builds the session and runs the program's start-up (the store is open
@@ -24,9 +24,25 @@ struct CliContext {
   Session& StartSession();
 };
 
+// Thrown by a command that refuses, after the program's message is shown:
+// the tool exits with status 2 and the store is as it was.
+struct Refusal {};
+
+// The user's school, or, when the program folder holds no dynasty, a
+// message and a Refusal.
+std::string RequireDynasty(Session& session);
+
+// A conference of the dynasty, or the message "League not found" and a
+// Refusal.
+void RequireConference(Session& session, const std::string& conference);
+
 // Each command adds itself to the app; its callback runs the command.
 void AddInitCommand(CLI::App& app, CliContext& context);
 void AddExhibitionCommand(CLI::App& app, CliContext& context);
 void AddBenchCommand(CLI::App& app, CliContext& context);
+void AddNewCommand(CLI::App& app, CliContext& context);
+void AddStartSeasonCommand(CLI::App& app, CliContext& context);
+void AddStandingsCommand(CLI::App& app, CliContext& context);
+void AddTeamsCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -15,11 +15,17 @@ int main(int argc, char** argv) {
   courtmere::cli::AddInitCommand(app, context);
   courtmere::cli::AddExhibitionCommand(app, context);
   courtmere::cli::AddBenchCommand(app, context);
+  courtmere::cli::AddNewCommand(app, context);
+  courtmere::cli::AddStartSeasonCommand(app, context);
+  courtmere::cli::AddStandingsCommand(app, context);
+  courtmere::cli::AddTeamsCommand(app, context);
 
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
     return app.exit(e);
+  } catch (const courtmere::cli::Refusal&) {
+    return 2;
   } catch (const std::exception& e) {
     std::cerr << "courtmere-cli: " << e.what() << '\n';
     return 1;

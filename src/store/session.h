@@ -1,16 +1,22 @@
 // The running program's session: the program folder, the open store, the
-// random generator and the user interface, plus the in-memory copy of Config.
+// random generator and the user interface, plus the in-memory copy of Config,
+// the user's school as the menu gate found it, and the season's individual
+// statistics, which live in memory between saves.
 //
 // Flows take a Session& rather than reaching for globals, so a test can run
 // two at once on two program folders.
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "platform/program_folder.h"
 #include "platform/rng.h"
 #include "platform/ui.h"
 #include "store/config.h"
+#include "store/inbox.h"
+#include "store/player_stats_store.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -23,6 +29,24 @@ struct Session {
   Ui& ui;
   std::unique_ptr<Store> store;  // null while the store is closed
   Config config;
+  Inbox inbox;  // the current week's messages to the user
+
+  // Set by MenuGate: the user's school (without a fired coach's prefix), its
+  // conference and that conference's schedule table ("League<Id>Schedule").
+  // Empty while the store holds no dynasty.
+  std::string humanSchool;
+  std::string humanConference;
+  std::string humanScheduleTable;
+
+  // The season's individual statistics. Games add to them; they reach the
+  // PlayerStats table only when the dynasty is saved or the season ends.
+  PlayerStatsStore seasonStats;
+
+  // The store's count of changed rows when the dynasty was last loaded or
+  // saved; -1 when it never was. See saved_games.h.
+  int64_t changesAtSave = -1;
+  // Set while the program ends.
+  bool quitting = false;
 
   Store& Db() { return *store; }
   bool StoreOpen() const { return store != nullptr; }

@@ -59,6 +59,9 @@ void StartUp(Session& session) {
 void OpenStore(Session& session, int decipher) {
   const ProgramFolder& folder = session.folder;
   session.store.reset();
+  // A store opened anew counts its changes from nothing: until a save or a
+  // load marks it, its dynasty counts as changed since the last save.
+  session.changesAtSave = -1;
   if (decipher == 1 && !CipherFile(folder.Store(), folder.Store(), kSavePassphrase)) {
     RestoreFromBackup(folder);
   }

@@ -1,0 +1,149 @@
+#include "store/saved_games.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+
+#include "platform/file_cipher.h"
+#include "store/season_stats.h"
+#include "store/session.h"
+#include "store/store_files.h"
+
+namespace courtmere {
+namespace {
+
+constexpr std::string_view kSaveFolder = "\\SaveGame\\";
+
+void RemoveQuietly(const std::filesystem::path& file) {
+  std::error_code ignored;
+  std::filesystem::remove(file, ignored);
+}
+
+// Whether the file is a store with its Config row; SimSpeed is the column a
+// save must answer for.
+bool HasConfigRow(const std::filesystem::path& file) {
+  try {
+    Store store(file);
+    Rows rows = store.Query("SELECT SimSpeed FROM Config WHERE IdConfig = 0");
+    return rows.Next();
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+// Deciphers a save into `plain` and checks that it is a dynasty's store.
+// On failure `plain` is gone.
+bool DecipherSave(const std::filesystem::path& save, const std::filesystem::path& plain) {
+  RemoveQuietly(plain);
+  const bool ok = CipherFile(save, plain, kSavePassphrase) && HasConfigRow(plain);
+  if (!ok) RemoveQuietly(plain);
+  return ok;
+}
+
+// Writes the working store, enciphered, to `target`. The store is closed for
+// the copy, so everything committed is in the one file, and opened again
+// whatever happens. The cipher writes a temporary file and renames it, so a
+// failure leaves `target` as it was.
+bool WriteSave(Session& session, const std::filesystem::path& target) {
+  CloseStore(session, 0);
+  const bool written = CipherFile(session.folder.Store(), target, kSavePassphrase);
+  OpenStore(session, 0);
+  if (!written) {
+    session.ui.Message("Error in the encryption");
+    return false;
+  }
+  MarkSaved(session);
+  return true;
+}
+
+int64_t ChangeCount(Session& session) {
+  return session.Db().Db().getTotalChanges();
+}
+
+}  // namespace
+
+bool HasSaveEnding(const std::filesystem::path& path) {
+  std::string name = path.filename().string();
+  if (name.size() < 4) return false;
+  std::string ending = name.substr(name.size() - 4);
+  std::transform(ending.begin(), ending.end(), ending.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return ending == ".CMR";
+}
+
+std::optional<std::filesystem::path> ChooseGameToLoad(Session& session) {
+  std::optional<std::filesystem::path> path =
+      session.ui.OpenFile("Open", session.folder.Path(kSaveFolder), kLoadFilter);
+  if (!path || !HasSaveEnding(*path)) return std::nullopt;
+  return path;
+}
+
+std::optional<std::filesystem::path> ChooseSaveName(Session& session) {
+  const std::filesystem::path folder = session.folder.EnsureFolder(kSaveFolder);
+  std::optional<std::filesystem::path> path = session.ui.SaveFile("Save", folder, kSaveFilter);
+  if (path && !HasSaveEnding(*path)) *path += ".CMR";
+  return path;
+}
+
+int CheckSaveFile(Session& session, const std::filesystem::path& path) {
+  const std::filesystem::path plain = session.folder.Path("\\mereballCheck.dat");
+  const bool ok = DecipherSave(path, plain);
+  RemoveQuietly(plain);
+  if (!ok) {
+    session.ui.Message(kNotASaveGame);
+    return 0;
+  }
+  return 1;
+}
+
+bool LoadSave(Session& session, const std::filesystem::path& path) {
+  const std::filesystem::path plain = session.folder.Path("\\mereballLoad.dat");
+  if (!DecipherSave(path, plain)) {
+    session.ui.Message(kCannotReadSave);
+    return false;
+  }
+  if (session.StoreOpen()) CloseStore(session, 0);
+  std::filesystem::rename(plain, session.folder.Store());
+  OpenStore(session, 0);
+  return true;
+}
+
+LoadOutcome LoadGameFile(Session& session, const std::filesystem::path& path,
+                         const PlayerGrader& gradeAllPlayers) {
+  if (!HasSaveEnding(path)) return LoadOutcome::kIgnored;
+  session.ui.ShowProgress("Loading Game");
+  const bool loaded = CheckSaveFile(session, path) == 1 && LoadSave(session, path);
+  session.ui.HideProgress();
+  if (!loaded) return LoadOutcome::kRefused;
+  LoadSeasonStats(session);
+  UpgradeStore(session, gradeAllPlayers);
+  MarkSaved(session);
+  return LoadOutcome::kLoaded;
+}
+
+bool SaveGameFile(Session& session, const std::filesystem::path& path) {
+  session.ui.ShowProgress("Saving Game");
+  const std::string& stage = session.config.Stage;
+  if (stage == kStageSeason || stage == kStageSeasonOver) SaveSeasonStats(session);
+  const bool saved = WriteSave(session, path);
+  session.ui.HideProgress();
+  if (saved) session.ui.Message("Your game has been saved to " + path.string());
+  return saved;
+}
+
+bool Autosave(Session& session) {
+  if (session.config.Autosave != 1) return false;
+  session.folder.EnsureFolder(kSaveFolder);
+  return WriteSave(session, session.folder.Path("\\SaveGame\\AutoSave.CMR"));
+}
+
+bool UnsavedChanges(Session& session) {
+  if (!session.StoreOpen() || session.humanSchool.empty()) return false;
+  return session.changesAtSave < 0 || ChangeCount(session) != session.changesAtSave;
+}
+
+void MarkSaved(Session& session) {
+  session.changesAtSave = ChangeCount(session);
+}
+
+}  // namespace courtmere
