@@ -44,5 +44,7 @@ void AddNewCommand(CLI::App& app, CliContext& context);
 void AddStartSeasonCommand(CLI::App& app, CliContext& context);
 void AddStandingsCommand(CLI::App& app, CliContext& context);
 void AddTeamsCommand(CLI::App& app, CliContext& context);
+void AddScheduleCommand(CLI::App& app, CliContext& context);
+void AddNonConfCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

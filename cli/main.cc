@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
   courtmere::cli::AddStartSeasonCommand(app, context);
   courtmere::cli::AddStandingsCommand(app, context);
   courtmere::cli::AddTeamsCommand(app, context);
+  courtmere::cli::AddScheduleCommand(app, context);
+  courtmere::cli::AddNonConfCommand(app, context);
 
   try {
     app.parse(argc, argv);

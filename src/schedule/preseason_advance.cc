@@ -39,21 +39,23 @@ bool NamesSeed(const std::string& side, char seed) {
   return !side.empty() && (side.front() == seed || side.back() == seed);
 }
 
-// The side of the game the winner takes: "Home", "Away", or none.
-std::optional<std::string_view> SideTaken(const OpenGame& game, char seed) {
+enum class Side { kHome, kAway };
+
+// The side of the game the winner takes, if any.
+std::optional<Side> SideTaken(const OpenGame& game, char seed) {
   if (game.day == kFriday) {
-    if (NamesSeed(game.home, seed)) return "Home";
-    if (NamesSeed(game.away, seed)) return "Away";
+    if (NamesSeed(game.home, seed)) return Side::kHome;
+    if (NamesSeed(game.away, seed)) return Side::kAway;
   } else if (game.day == kSunday) {
-    if (IsPairingText(game.home)) return "Home";
-    if (IsPairingText(game.away)) return "Away";
+    if (IsPairingText(game.home)) return Side::kHome;
+    if (IsPairingText(game.away)) return Side::kAway;
   }
   return std::nullopt;
 }
 
-void TakeSide(Store& store, std::string_view tournament, const OpenGame& game,
-              std::string_view side, const std::string& school, const std::string& conference) {
-  const bool home = side == "Home";
+void TakeSide(Store& store, std::string_view tournament, const OpenGame& game, Side side,
+              const std::string& school, const std::string& conference) {
+  const bool home = side == Side::kHome;
   store.Exec(home ? "UPDATE NonConfSchedule SET HomeTeam = ?, HomeConf = ? WHERE GameNo = ?"
                   : "UPDATE NonConfSchedule SET AwayTeam = ?, AwayConf = ? WHERE GameNo = ?",
              school, conference, game.gameNo);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "league/prestige_bands.h"
 #include "platform/rng.h"
-#include "screens/prestige_word.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -110,7 +110,7 @@ std::vector<NonConfChoice> PreConferenceCandidates(Store& store, Rng& rng,
         Refused(store, position, c.school)) {
       continue;
     }
-    candidates.push_back({c.school, c.conference, std::string(PrestigeWord(c.prestige))});
+    candidates.push_back({c.school, c.conference, BandOf(c.prestige).Label});
     if (candidates.size() == kCandidates) break;
   }
   return candidates;

@@ -1,6 +1,6 @@
 #include "screens/nonconf_schools.h"
 
-#include "screens/prestige_word.h"
+#include "league/prestige_bands.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -30,7 +30,7 @@ std::optional<NonConfChoice> LookUpSchool(Store& store, const std::string& schoo
         std::string("SELECT Conference, InitialPrestige FROM ScrubTeam WHERE SchoolName = ?")}) {
     Rows rows = store.Query(sql, school);
     if (rows.Next()) {
-      return NonConfChoice{school, rows.Text(0), std::string(PrestigeWord(rows.Double(1)))};
+      return NonConfChoice{school, rows.Text(0), BandOf(rows.Double(1)).Label};
     }
   }
   return std::nullopt;

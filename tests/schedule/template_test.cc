@@ -163,17 +163,5 @@ TEST(TemplateTest, OddConferencesLeaveTheNamedSlotIdle) {
   }
 }
 
-TEST(TemplateTest, SlotOrdersFollowTheDraw) {
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kNameOrPrestige, 76), " ORDER BY SchoolName ASC");
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kNameOrPrestige, 75), " ORDER BY SchoolName DESC");
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kNameOrPrestige, 50), " ORDER BY Prestige DESC");
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kNameOrPrestige, 25), " ORDER BY Prestige ASC");
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kSchedGroup, 51),
-            " ORDER BY SchedGroup DESC, SchoolName DESC");
-  EXPECT_EQ(SlotOrderClause(SlotOrder::kSchedGroup, 26),
-            " ORDER BY SchedGroup ASC, SchoolName DESC");
-  EXPECT_EQ(FindScheduleType("12D"), nullptr);
-}
-
 }  // namespace
 }  // namespace courtmere
