@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "platform/scripted_ui.h"
@@ -24,9 +25,19 @@ struct CliContext {
   Session& StartSession();
 };
 
+// A command's refusal: the program's own message has been shown through the
+// Ui; `what()` may add the tool's own explanation for stderr. Nothing was
+// changed, and the tool exits with status 2.
+class CliRefusal : public std::runtime_error {
+ public:
+  explicit CliRefusal(const std::string& why = "") : std::runtime_error(why) {}
+};
+
 // Each command adds itself to the app; its callback runs the command.
 void AddInitCommand(CLI::App& app, CliContext& context);
 void AddExhibitionCommand(CLI::App& app, CliContext& context);
 void AddBenchCommand(CLI::App& app, CliContext& context);
+void AddSaveCommand(CLI::App& app, CliContext& context);
+void AddLoadCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

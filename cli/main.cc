@@ -15,11 +15,16 @@ int main(int argc, char** argv) {
   courtmere::cli::AddInitCommand(app, context);
   courtmere::cli::AddExhibitionCommand(app, context);
   courtmere::cli::AddBenchCommand(app, context);
+  courtmere::cli::AddSaveCommand(app, context);
+  courtmere::cli::AddLoadCommand(app, context);
 
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
     return app.exit(e);
+  } catch (const courtmere::cli::CliRefusal& e) {
+    if (*e.what() != '\0') std::cerr << "courtmere-cli: " << e.what() << '\n';
+    return 2;
   } catch (const std::exception& e) {
     std::cerr << "courtmere-cli: " << e.what() << '\n';
     return 1;
