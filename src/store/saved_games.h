@@ -35,6 +35,9 @@ inline constexpr std::string_view kSaveFilter = "All Files (*.CMR)|*.CMR";
 // Whether the name ends in ".CMR", in any case.
 bool HasSaveEnding(const std::filesystem::path& path);
 
+// The name with ".CMR" added unless it ends so already.
+std::filesystem::path WithSaveEnding(std::filesystem::path path);
+
 // File > Load's dialog, titled "Open", in "\SaveGame\". Nothing when the user
 // cancels or picks a name without the ".CMR" ending (which ends the flow
 // without a word).
