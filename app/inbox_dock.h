@@ -1,0 +1,35 @@
+// frmCoachUpdate, the inbox, docked in the lower left corner of the main
+// window for the whole session: the messages of the current week, from the
+// store's Messages rows, read-only. A click on one shows its text.
+#pragma once
+
+#include <QDockWidget>
+
+class QPlainTextEdit;
+
+namespace courtmere {
+struct Session;
+}
+
+namespace courtmere::app {
+
+class GridView;
+
+class InboxDock : public QDockWidget {
+  Q_OBJECT
+
+ public:
+  InboxDock(Session& session, QWidget* parent = nullptr);
+
+  // Caption "<school> Email Inbox" and the week's messages.
+  void Refresh();
+  GridView* Grid() const { return grid_; }
+
+ private:
+  Session& session_;
+  GridView* grid_;
+  QPlainTextEdit* text_;
+  std::vector<QString> messages_;
+};
+
+}  // namespace courtmere::app
