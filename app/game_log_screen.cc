@@ -57,7 +57,7 @@ GameLogScreen::GameLogScreen(Session& session, ScreenHost& host, QWidget* parent
   connect(schools_, &QComboBox::currentIndexChanged, this, [this] { BuildGrid(); });
   connect(grid_, &GridView::CellClicked, this, [this](int row, int) { OpenLog(row); });
   connect(boxScore_, &QPushButton::clicked, this, [this] { OpenBoxScore(); });
-  connect(close, &QPushButton::clicked, this, [this] { window()->close(); });
+  connect(close, &QPushButton::clicked, this, [this] { CloseWindow(); });
 
   auto* choose = new QHBoxLayout;
   choose->addWidget(new QLabel("Conference", this));

@@ -1,5 +1,6 @@
 #include "app/intro_screen.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -45,7 +46,12 @@ QPushButton* IntroScreen::AddLabel(const char* name, const QString& text, const 
   button->setObjectName(name);
   button->setCursor(Qt::PointingHandCursor);
   button->setFocusPolicy(Qt::NoFocus);
-  connect(button, &QPushButton::clicked, this, [this, command] { run_(command); });
+  // Queued: the command may close this screen (a load does), which must not
+  // happen while its button is still reporting the click.
+  connect(button, &QPushButton::clicked, this, [run = run_, command] {
+    QMetaObject::invokeMethod(
+        qApp, [run, command] { run(command); }, Qt::QueuedConnection);
+  });
   labels_.push_back({button, command});
   return button;
 }

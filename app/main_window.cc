@@ -259,10 +259,15 @@ QList<Screen*> MainWindow::Screens() const {
   return screens;
 }
 
+// The windows leave the area at once, so no flow that follows sees them; they
+// are deleted when the event in hand is over, as one of them may be the
+// sender of that event.
 void MainWindow::CloseScreens() {
   for (QMdiSubWindow* window : area_->subWindowList()) {
-    window->close();
-    delete window;  // closing only schedules the deletion; the screens must go now
+    area_->removeSubWindow(window);
+    window->hide();
+    window->setParent(this);
+    window->deleteLater();
   }
   introWindow_ = nullptr;
   intro_ = nullptr;

@@ -46,6 +46,9 @@ class Screen : public QWidget {
   virtual void Refresh() {}
 
  protected:
+  // Closes the screen's window (its Close button).
+  void CloseWindow();
+
   Session& session_;
   ScreenHost& host_;
 };

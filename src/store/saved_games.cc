@@ -120,8 +120,8 @@ LoadOutcome LoadGameFile(Session& session, const std::filesystem::path& path,
   const bool loaded = CheckSaveFile(session, path) == 1 && LoadSave(session, path);
   session.ui.HideProgress();
   if (!loaded) return LoadOutcome::kRefused;
-  LoadSeasonStats(session);
   UpgradeStore(session, gradeAllPlayers);
+  LoadSeasonStats(session);
   MarkSaved(session);
   return LoadOutcome::kLoaded;
 }

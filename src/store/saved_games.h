@@ -61,8 +61,8 @@ bool LoadSave(Session& session, const std::filesystem::path& path);
 enum class LoadOutcome { kLoaded, kIgnored, kRefused };
 
 // File > Load after the dialog: ignores a name without the ".CMR" ending,
-// checks the file, loads it under "Loading Game", reads the season's
-// statistics and brings the store up to date (UpgradeStore).
+// checks the file, loads it under "Loading Game", brings the store up to
+// date (UpgradeStore) and reads the season's statistics.
 LoadOutcome LoadGameFile(Session& session, const std::filesystem::path& path,
                          const PlayerGrader& gradeAllPlayers);
 

@@ -4,11 +4,13 @@
 #include "store/saved_games.h"
 
 #include <QAction>
+#include <QPushButton>
 #include <QtTest>
 #include <fstream>
 #include <iterator>
 #include <memory>
 
+#include "app/intro_screen.h"
 #include "app/main_window.h"
 #include "dynasty_fixture.h"
 
@@ -110,6 +112,22 @@ class SavedGamesTest : public QObject {
     QCOMPARE(Dump(dynasty_->store()), before);
     QCOMPARE(Read(damaged), bytes);
     QVERIFY(window_->Entry("mnuFileSave")->isEnabled());
+  }
+
+  void theIntrosLoadLabelLoadsASave() {
+    dynasty_->ui().QueueFile(save_);
+    window_->Entry("mnuFileSave")->trigger();
+    dynasty_->store().Exec("DELETE FROM HeadCoach");
+    window_->StoreChanged();
+    QVERIFY(window_->Intro());
+
+    dynasty_->ui().QueueFile(save_);
+    QTest::mouseClick(window_->Intro()->findChild<QPushButton*>("lblLoad"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QVERIFY(!window_->Intro());
+    QCOMPARE(*dynasty_->store().ScalarText("SELECT Name FROM HeadCoach"),
+             std::string("Pat O'Neil"));
+    QCOMPARE(window_->windowTitle(), QString("Courtmere (Contact Period)"));
   }
 
   void aNameWithAnotherEndingIsIgnoredSilently() {

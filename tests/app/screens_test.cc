@@ -207,6 +207,13 @@ class ScreensTest : public QObject {
     QVERIFY(card);
     QVERIFY(dynasty_->ui().Messages().empty());
     Screenshot(window_.get(), "player_card");
+
+    // Close shuts the game log's own window, nothing more.
+    log->findChild<QPushButton*>("cmdClose")->click();
+    QCoreApplication::processEvents();
+    QVERIFY(!Find<GameLogScreen>(*window_));
+    QVERIFY(window_->isVisible());
+    QVERIFY(dynasty_->ui().Questions().empty());
   }
 
   void anUnknownNameOnABoxScoreSaysSo() {
