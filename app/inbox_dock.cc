@@ -35,26 +35,19 @@ InboxDock::InboxDock(Session& session, QWidget* parent)
   split->setFixedHeight(kHeight);
   setWidget(split);
   connect(grid_, &GridView::CellClicked, this, [this](int row, int) {
-    text_->setPlainText(row < static_cast<int>(messages_.size()) ? messages_[row] : QString());
+    const std::vector<InboxMessage>& messages = session_.inbox.Messages;
+    if (row < static_cast<int>(messages.size())) text_->setPlainText(ToQString(messages[row].Text));
   });
 }
 
 void InboxDock::Refresh() {
   setWindowTitle(ToQString(session_.humanSchool) + " Email Inbox");
   std::vector<GridRow> rows;
-  messages_.clear();
-  text_->clear();
-  if (session_.StoreOpen() && !session_.humanSchool.empty()) {
-    for (Rows r =
-             session_.Db().Query("SELECT Type, Message FROM Messages WHERE Week = ? ORDER BY Id",
-                                 session_.config.CurrWeek);
-         r.Next();) {
-      const QString message = ToQString(r.TextView(1));
-      rows.push_back({GridCell::Text(r.TextView(0)), {message.section('\n', 0, 0), {}, false}});
-      messages_.push_back(message);
-    }
+  for (const InboxMessage& message : session_.inbox.Messages) {
+    rows.push_back({GridCell::Text(message.Sender), GridCell::Text(message.Subject)});
   }
   grid_->Model()->SetRows(std::move(rows));
+  text_->clear();
 }
 
 }  // namespace courtmere::app

@@ -1,6 +1,6 @@
-// frmCoachUpdate, the inbox, docked in the lower left corner of the main
-// window for the whole session: the messages of the current week, from the
-// store's Messages rows, read-only. A click on one shows its text.
+// frmCoachUpdate, the inbox, docked at the foot of the main window for the
+// whole session: the current week's messages (Session::inbox), each with its
+// sender and subject. A click on one shows its text.
 #pragma once
 
 #include <QDockWidget>
@@ -29,7 +29,6 @@ class InboxDock : public QDockWidget {
   Session& session_;
   GridView* grid_;
   QPlainTextEdit* text_;
-  std::vector<QString> messages_;
 };
 
 }  // namespace courtmere::app

@@ -21,6 +21,7 @@
 #include "app/team_info_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
+#include "league/clear_dynasty.h"
 #include "people/grade_all_players.h"
 #include "store/saved_games.h"
 #include "store/session.h"
@@ -351,14 +352,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-// The store is left closed and in plain form. ClearDynasty, which leaves it
-// blank as well, joins here with the league library; until then the next
-// start finds the last dynasty in the working store and shows the intro all
-// the same.
+// The store is left blank, closed and in plain form: the dynasty lives on
+// only in its saves.
 void MainWindow::EndRun() {
   session_.quitting = true;
   CloseScreens();
-  if (session_.StoreOpen()) CloseStore(session_, 0);
+  if (!session_.StoreOpen()) return;
+  ClearDynasty(session_.Db());
+  CloseStore(session_, 0);
 }
 
 }  // namespace courtmere::app

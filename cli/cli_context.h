@@ -6,10 +6,9 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 
-#include "platform/scripted_ui.h"
+#include "cli_ui.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -17,7 +16,7 @@ namespace courtmere::cli {
 struct CliContext {
   std::string home;              // --home; empty means the desktop program's folder
   std::optional<uint64_t> seed;  // --seed; fixed-seed mode when given
-  ScriptedUi ui{nullptr};
+  CliUi ui;
   std::unique_ptr<Session> session;
 
   // Builds the session and runs the program's start-up (the store is open
@@ -25,13 +24,17 @@ struct CliContext {
   Session& StartSession();
 };
 
-// A command's refusal: the program's own message has been shown through the
-// Ui; `what()` may add the tool's own explanation for stderr. Nothing was
-// changed, and the tool exits with status 2.
-class CliRefusal : public std::runtime_error {
- public:
-  explicit CliRefusal(const std::string& why = "") : std::runtime_error(why) {}
-};
+// Thrown by a command that refuses, after the program's message is shown:
+// the tool exits with status 2 and the store is as it was.
+struct Refusal {};
+
+// The user's school, or, when the program folder holds no dynasty, a
+// message and a Refusal.
+std::string RequireDynasty(Session& session);
+
+// A conference of the dynasty, or the message "League not found" and a
+// Refusal.
+void RequireConference(Session& session, const std::string& conference);
 
 // Each command adds itself to the app; its callback runs the command.
 void AddInitCommand(CLI::App& app, CliContext& context);
@@ -39,5 +42,11 @@ void AddExhibitionCommand(CLI::App& app, CliContext& context);
 void AddBenchCommand(CLI::App& app, CliContext& context);
 void AddSaveCommand(CLI::App& app, CliContext& context);
 void AddLoadCommand(CLI::App& app, CliContext& context);
+void AddNewCommand(CLI::App& app, CliContext& context);
+void AddStartSeasonCommand(CLI::App& app, CliContext& context);
+void AddStandingsCommand(CLI::App& app, CliContext& context);
+void AddTeamsCommand(CLI::App& app, CliContext& context);
+void AddScheduleCommand(CLI::App& app, CliContext& context);
+void AddNonConfCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -3,14 +3,11 @@
 #include <fmt/format.h>
 
 #include <fstream>
-#include <iostream>
 #include <stdexcept>
 
 #include "cli_context.h"
-#include "engine/post_game.h"
-#include "engine/run_engine.h"
 #include "exhibition_setup.h"
-#include "store/config.h"
+#include "season/exhibition_series.h"
 
 namespace courtmere::cli {
 
@@ -23,30 +20,14 @@ struct ExhibitionOptions {
   bool log = false;
 };
 
-// The season figures of the two schools' players, for the recording.
-PlayerStatsStore SeasonStore(Store& store, const SchoolPair& pair) {
-  PlayerStatsStore stats;
-  int index = 1;
-  for (const std::string& school : {pair.home, pair.away}) {
-    TeamSeasonLines& team = stats.Team(index++);
-    team.SchoolName = school;
-    int slot = 1;
-    for (const char* table : {"Player", "ScrubPlayer"}) {
-      const std::string sql =
-          std::string("SELECT Id, PlayerPosition FROM ") + table + " WHERE Team = ? ORDER BY Id";
-      for (Rows rows = store.Query(sql, school); rows.Next() && slot <= TeamSeasonLines::kSlots;) {
-        team.Players[slot].Id = rows.Int(0);
-        team.Players[slot].PlayerPosition = rows.Int(1);
-        ++slot;
-      }
-    }
-  }
-  return stats;
-}
-
 void PrintFile(const std::string& file) {
   std::ifstream in(file);
   for (std::string line; std::getline(in, line);) fmt::print("{}\n", line);
+}
+
+void PrintGame(const SeriesGame& played) {
+  PrintFile(played.boxFile);
+  if (played.logFile != "none") fmt::print("log {}\n", played.logFile);
 }
 
 void RunExhibition(CliContext& context, const ExhibitionOptions& options) {
@@ -55,28 +36,14 @@ void RunExhibition(CliContext& context, const ExhibitionOptions& options) {
   }
   Session& session = context.StartSession();
   const SchoolPair pair = PrepareExhibition(session, options.home, options.away);
-  Store& store = session.Db();
-  session.config = LoadConfig(store);
-  PlayerStatsStore stats = SeasonStore(store, pair);
-  DayResults day;
-  Game game(session);
-  for (int g = 0; g < options.games; ++g) {
-    GameRequest request;
-    request.HomeTeam = pair.home;
-    request.AwayTeam = pair.away;
-    request.GameType = "Exhibition";
-    request.BatchIndex = g % 150 + 1;
-    request.GameNo = ++session.config.MaxGameNo;
-    std::string box;
-    std::string log = options.log ? "log" : "none";
-    if (RunEngine(game, day, request, box, log) != 1) {
-      throw std::runtime_error("the game could not be played");
-    }
-    RecordPlayerStats(day, stats, session.config, request.BatchIndex);
-    RecordTeamStats(store, day, request.BatchIndex);
-    SaveConfig(store, session.config);
-    PrintFile(box);
-    if (log != "none") fmt::print("log {}\n", log);
+  const ExhibitionSeries series{pair.home, pair.away, options.games, options.log};
+  const int played = PlayExhibitionSeries(session, series, PrintGame);
+  if (played < options.games) {
+    // A school could not field a team; the program has said which. The
+    // games played stay recorded.
+    fmt::print(stderr, "courtmere-cli: the series stopped after {} of {} games\n", played,
+               options.games);
+    throw CLI::RuntimeError(2);
   }
 }
 

@@ -1,6 +1,8 @@
 // courtmere-cli load FILE: File > Load without the dialog.
 #include <fmt/format.h>
 
+#include <iostream>
+
 #include "cli_context.h"
 #include "people/grade_all_players.h"
 #include "save_game_path.h"
@@ -16,14 +18,16 @@ void RunLoad(CliContext& context, const std::string& file) {
   const std::filesystem::path path = SaveGamePath(session, file);
   switch (LoadGameFile(session, path, GradeAllPlayers)) {
     case LoadOutcome::kIgnored:
-      throw CliRefusal("a saved game's name ends in .CMR; nothing was loaded");
+      // The desktop program ends here without a word; the tool says why.
+      std::cerr << "courtmere-cli: a saved game's name ends in .CMR; nothing was loaded\n";
+      throw Refusal{};
     case LoadOutcome::kRefused:
-      throw CliRefusal();
+      throw Refusal{};
     case LoadOutcome::kLoaded:
       break;
   }
   const MenuGateState gate = MenuGate(session);
-  if (gate.fatal) throw CliRefusal();
+  if (gate.fatal) throw Refusal{};
   fmt::print("loaded {}\n", path.string());
   if (gate.dynasty) {
     fmt::print("{}: {}, {}, week {}, {}\n", gate.title, session.humanSchool, session.config.Stage,

@@ -3,7 +3,6 @@
 
 #include "cli_context.h"
 #include "save_game_path.h"
-#include "store/menu_gate.h"
 #include "store/saved_games.h"
 #include "store/season_stats.h"
 
@@ -13,13 +12,12 @@ namespace {
 
 void RunSave(CliContext& context, const std::string& file) {
   Session& session = context.StartSession();
-  MenuGate(session);
   // The Save entry is open only while a dynasty stands.
-  if (session.humanSchool.empty()) throw CliRefusal("there is no dynasty to save");
+  RequireDynasty(session);
   // Each run of the tool starts from the store: the season's figures in
   // memory are the ones the store holds, and a save writes them back.
   LoadSeasonStats(session);
-  if (!SaveGameFile(session, WithSaveEnding(SaveGamePath(session, file)))) throw CliRefusal();
+  if (!SaveGameFile(session, WithSaveEnding(SaveGamePath(session, file)))) throw Refusal{};
 }
 
 }  // namespace

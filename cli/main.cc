@@ -15,6 +15,12 @@ int main(int argc, char** argv) {
   courtmere::cli::AddInitCommand(app, context);
   courtmere::cli::AddExhibitionCommand(app, context);
   courtmere::cli::AddBenchCommand(app, context);
+  courtmere::cli::AddNewCommand(app, context);
+  courtmere::cli::AddStartSeasonCommand(app, context);
+  courtmere::cli::AddStandingsCommand(app, context);
+  courtmere::cli::AddTeamsCommand(app, context);
+  courtmere::cli::AddScheduleCommand(app, context);
+  courtmere::cli::AddNonConfCommand(app, context);
   courtmere::cli::AddSaveCommand(app, context);
   courtmere::cli::AddLoadCommand(app, context);
 
@@ -22,8 +28,7 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
     return app.exit(e);
-  } catch (const courtmere::cli::CliRefusal& e) {
-    if (*e.what() != '\0') std::cerr << "courtmere-cli: " << e.what() << '\n';
+  } catch (const courtmere::cli::Refusal&) {
     return 2;
   } catch (const std::exception& e) {
     std::cerr << "courtmere-cli: " << e.what() << '\n';

@@ -59,8 +59,12 @@ void SetCoachRoles(Session& session, const std::string& school) {
   for (const CoachRow& c : coaches) {
     off.Add(c.id, c.off);
     def.Add(c.id, c.def);
-    // Every coach recruits unless he is given a game role below. A role left
-    // from before is cleared, so that each role has one holder.
+    // Every coach recruits unless he is given a game role below.
+    // Design decision: a role left from before is cleared as well. The roles
+    // are drawn again only when one of them has no holder (its coach left);
+    // the other's holder may not be the coach chosen now, and a staff must
+    // have one holder of each role: the game reads the first holder it
+    // finds, the staff screens want exactly one.
     store.Exec("UPDATE Coach SET RecPoints = 2, OffPoints = 0, DefPoints = 0 WHERE Id = ?", c.id);
   }
   int offId = off.bestId;

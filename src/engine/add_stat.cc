@@ -63,7 +63,8 @@ void Book(GameStat& line, Stat stat, bool player) {
 
 void AddStat(Game& game, Stat stat, SideWordRole role, int slot) {
   GameSide& side = game.SideOf(role);
-  Book(game.LineOf(side, side.Court[slot]), stat, true);
+  GameStat* line = side.StatOf(side.Court[slot]);
+  Book(line != nullptr ? *line : side.Unattributed, stat, true);
   if (stat == Stat::AllowPoint) return;
   Book(side.Team(), stat, false);
   if (stat == Stat::Foul) ++side.Fouls;

@@ -94,6 +94,7 @@ void GameSide::ClearPeople() {
   BackgroundRoster = false;
   FullTexts = false;
   Stats.fill(GameStat{});
+  Unattributed = GameStat{};
   Depth.fill(0);
   Court.fill(GamePlayer{});
   Bench.fill(GamePlayer{});
@@ -119,6 +120,7 @@ void ResetGameStats(Game& game) {
       line.ClearCounters();
       if (i < GameSide::kTeamLine) line.Energy = side.Roster[i].Endurance;
     }
+    side.Unattributed.ClearCounters();
   }
 }
 

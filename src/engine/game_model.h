@@ -160,6 +160,10 @@ struct GameSide {
   bool BackgroundRoster = false;
   bool FullTexts = false;
   std::array<GameStat, kTeamLine + 1> Stats{};
+  // What the play rules booked to a floor slot that held no man (see
+  // AddStat): the team line has it, no man's line does, so the team line
+  // is the sum of the players' lines and this one. Never shown.
+  GameStat Unattributed;
   std::array<int, kDepthEntries + 1> Depth{};
   // The remembered answers of DepthStatIndex, a cache only.
   mutable std::array<int, kDepthEntries + 1> DepthLine{};

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "people/creation_tables.h"
 #include "people/position_builders.h"
 #include "people/rating.h"
 #include "people/recruit_report.h"
@@ -16,79 +17,6 @@ namespace {
 constexpr int kRosterSize = 13;
 constexpr std::array<const char*, 5> kYearNames = {"Recruit", "Freshman", "Sophomore", "Junior",
                                                    "Senior"};
-
-// Class limits: "Poor" when the roll is above `poor`, "Average" above
-// `average`, "Good" above `good`, else `best`. A limit of 100 never passes.
-struct ClassLimits {
-  int poor;
-  int average;
-  int good;
-  Quality best;
-};
-
-Quality ClassOf(int x, const ClassLimits& l) {
-  if (x > l.poor) return Quality::kPoor;
-  if (x > l.average) return Quality::kAverage;
-  if (x > l.good) return Quality::kGood;
-  return l.best;
-}
-
-ClassLimits PlayerClassLimits(int p) {
-  if (p > 75) return {78, 49, 24, Quality::kExc};
-  if (p >= 66) return {70, 42, 15, Quality::kExc};
-  if (p >= 56) return {65, 32, 8, Quality::kExc};
-  if (p >= 46) return {55, 15, 2, Quality::kExc};
-  if (p >= 36) return {45, 8, 100, Quality::kGood};
-  if (p >= 26) return {35, 2, 100, Quality::kGood};
-  if (p >= 1) return {20, 100, 100, Quality::kAverage};
-  return {0, 100, 100, Quality::kPoor};
-}
-
-ClassLimits ScrubClassLimits(int p) {
-  if (p > 59) return {70, 40, 12, Quality::kExc};
-  if (p >= 50) return {55, 15, 3, Quality::kExc};
-  if (p >= 40) return {35, 4, 100, Quality::kGood};
-  if (p >= 30) return {28, 100, 100, Quality::kAverage};
-  return {18, 100, 100, Quality::kAverage};
-}
-
-// One row of a position table: rolls above `above` go to `position` with a
-// height of R(m, a), or exactly `a` when m is 0.
-struct HeightRow {
-  int above;
-  int position;
-  double m;
-  double a;
-};
-
-constexpr std::array<HeightRow, 10> kPlayerHeights = {{{97, kPG, 2, 68},
-                                                       {96, kPG, 2, 69},
-                                                       {85, kPG, 2, 70},
-                                                       {80, kPG, 3, 71},
-                                                       {60, kSG, 4, 73},
-                                                       {40, kSF, 5, 75},
-                                                       {20, kPF, 5, 77},
-                                                       {5, kC, 5, 79},
-                                                       {2, kC, 3, 82},
-                                                       {0, kC, 3, 83}}};
-
-constexpr std::array<HeightRow, 10> kScrubHeights = {{{97, kPG, 2, 65},
-                                                      {95, kPG, 2, 67},
-                                                      {90, kPG, 2, 69},
-                                                      {80, kPG, 3, 71},
-                                                      {60, kSG, 3, 74},
-                                                      {40, kSF, 3, 77},
-                                                      {20, kPF, 2, 80},
-                                                      {5, kC, 4, 82},
-                                                      {2, kC, 0, 86},
-                                                      {0, kC, 0, 87}}};
-
-const HeightRow& RowOf(int y, const std::array<HeightRow, 10>& table) {
-  for (const HeightRow& row : table) {
-    if (y > row.above) return row;
-  }
-  return table.back();
-}
 
 // The roll that a full position hands on to: the first position with room,
 // looking at C, PF, SF, SG and PG in this order; 0 when none has room.
@@ -114,11 +42,11 @@ int HandOnRoll(Rng& rng, const PositionCounters& counters, int cap) {
 // Rolls the position and height and runs the builder. A roll whose position
 // already holds `cap` players is handed on; when no position has room left
 // (walk-ons, whose counters are not cleared) the roll is taken as it came.
-void BuildFromRoll(Rng& rng, PositionCounters& counters, int cap,
-                   const std::array<HeightRow, 10>& table, Player& p, Quality q) {
+void BuildFromRoll(Rng& rng, PositionCounters& counters, int cap, HeightBand (*bandOf)(int y),
+                   Player& p, Quality q) {
   int y = Int(rng.Rnd() * 100 + 1);
   for (;;) {
-    const HeightRow& row = RowOf(y, table);
+    const HeightBand row = bandOf(y);
     if (counters[row.position] == cap) {
       const int handed = HandOnRoll(rng, counters, cap);
       if (handed != 0) {
@@ -227,9 +155,9 @@ void CreateOnePlayer(Session& session, PlayerBatch& batch, const std::string& te
   p.Homesick = rng.R(100, 1);
   StartRecord(batch, p, team, year);
   p.AvoidInjury = rng.R(55, 45);
-  const Quality q = ClassOf(Int(rng.Rnd() * 100 + 1), PlayerClassLimits(prestige));
+  const Quality q = PlayerClass(prestige, Int(rng.Rnd() * 100 + 1));
   p.PlayWinner = DrawWish(rng, q);
-  BuildFromRoll(rng, batch.positions, cap, kPlayerHeights, p, q);
+  BuildFromRoll(rng, batch.positions, cap, PlayerHeightBand, p, q);
   Finish(session, p, year);
   SetPlayerGPA(rng, p);
   AddPlayer(store, p);
@@ -246,24 +174,18 @@ void CreateOneScrubPlayer(Session& session, PlayerBatch& batch, const std::strin
   StartRecord(batch, p, team, year);
   p.NBAFlag = 0;
   p.AvoidInjury = rng.R(55, 45);
-  const Quality q = ClassOf(Int(rng.Rnd() * 100 + 1), ScrubClassLimits(prestige));
-  BuildFromRoll(rng, batch.positions, cap, kScrubHeights, p, q);
+  const Quality q = ScrubClass(prestige, Int(rng.Rnd() * 100 + 1));
+  BuildFromRoll(rng, batch.positions, cap, ScrubHeightBand, p, q);
   Finish(session, p, year);
   AddScrubPlayer(session.Db(), p);
   ++batch.ids.NextId;
 }
 
-// Did this player, drawn r, decide to leave early for the draft?
-bool LeavesEarly(double overall, int potential, double gpa, int r) {
-  if (overall > 86) return true;
-  if (overall > 80 && potential > 74) return r < 65;
-  if (overall > 80 && potential >= 65) return r < 45;
-  if (overall > 75 && potential > 73) return gpa < 2 ? r < 30 : r < 9;
-  return false;
-}
-
-constexpr int kMostEarlyLeavers = 51;
-
+// A junior-college man back in the pool keeps his Recruit row, and with it
+// the year he may sign in (InEligible), his test score, his choice and his
+// ranks, which later rules read. He gets a new first report, interest list
+// and statistics, and his school now reads as the junior college of his
+// area.
 void RenewReturningRecruit(Session& session, PlayerBatch& batch, int id) {
   Store& store = session.Db();
   Player p;
@@ -276,8 +198,8 @@ void RenewReturningRecruit(Session& session, PlayerBatch& batch, int id) {
     r.Area = rows.Text(1);
     r.RecruitType = rows.Text(2);
   }
-  // A fresh row: whatever the last season left on it is gone.
-  store.Exec("DELETE FROM Recruit WHERE Id = ?", id);
+  p.HighSchool = r.Area + " JC(" + p.HighSchool + ")";
+  store.Exec("UPDATE Player SET HighSchool = ? WHERE Id = ?", p.HighSchool, id);
   r.Id = id;
   r.ScoutingReport = RecruitReport(session.rng, p, 1);
   if (batch.recruitInterest) batch.recruitInterest(session, r, p);
@@ -392,6 +314,8 @@ int RegionRecruitCount(Session& session, const std::string& region) {
           .value_or(0));
   std::vector<int> leavers;
   {
+    // Design decision: the players are taken best first, so that when the
+    // region holds its most leavers the ones kept are the likeliest to go.
     Rows rows = store.Query(
         "SELECT Player.Id, Player.Overall, Player.Potential, Player.GPA FROM Player JOIN Team ON "
         "Player.Team = Team.SchoolName WHERE Team.Region = ? AND Player.Overall > 75 AND "

@@ -94,7 +94,12 @@ bool RedshirtPlayer(Session& session, int playerId) {
 bool ActivatePlayer(Session& session, int playerId) {
   Store& store = session.Db();
   const auto p = Find(store, playerId);
-  if (!p) return false;
+  // Only a man redshirting this season can be activated. Design decision:
+  // anyone else (never redshirted, or his redshirt year already used) is
+  // refused without a question or a message, as the roster screen offers
+  // activation only to a redshirting man; activating a used redshirt would
+  // give him back the year he may not have twice.
+  if (!p || p->redshirt != 1) return false;
   if (!session.ui.Ask("Are you sure you wish to activate " + p->name +
                       " from his redshirt season? This decision cannot be reversed.")) {
     return false;

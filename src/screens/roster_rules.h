@@ -16,7 +16,8 @@ struct Session;
 bool RosterChangesOpen(Session& session);
 
 // Each returns true when the player was changed. Release, redshirt and
-// switch do nothing outside "Post Training"; activation is open all year.
+// switch do nothing outside "Post Training"; activation is open all year,
+// for a man who is redshirting this season only.
 bool ReleasePlayer(Session& session, int playerId);
 bool RedshirtPlayer(Session& session, int playerId);
 bool ActivatePlayer(Session& session, int playerId);

@@ -15,6 +15,7 @@
 #include "platform/rng.h"
 #include "platform/ui.h"
 #include "store/config.h"
+#include "store/inbox.h"
 #include "store/player_stats_store.h"
 #include "store/store.h"
 
@@ -28,6 +29,7 @@ struct Session {
   Ui& ui;
   std::unique_ptr<Store> store;  // null while the store is closed
   Config config;
+  Inbox inbox;  // the current week's messages to the user
 
   // Set by MenuGate: the user's school (without a fired coach's prefix), its
   // conference and that conference's schedule table ("League<Id>Schedule").

@@ -9,11 +9,11 @@
 
 #include "app/main_window.h"
 #include "app/menu_tree.h"
-#include "dynasty_fixture.h"
+#include "app_dynasty.h"
 
 namespace courtmere::app {
 
-using testing::DynastyFixture;
+using testing::AppDynasty;
 
 namespace {
 
@@ -31,7 +31,7 @@ class MenuGateTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { dynasty_ = std::make_unique<DynastyFixture>(); }
+  void init() { dynasty_ = std::make_unique<AppDynasty>(); }
   void cleanup() { dynasty_.reset(); }
 
   void startUpOpensOnlyTheIntrosWay() {
@@ -203,8 +203,8 @@ class MenuGateTest : public QObject {
     const MenuGateState state = MenuGate(dynasty_->session());
     QVERIFY(state.dynasty);
     QVERIFY(state.entries.at("mnuManagement"));
-    QCOMPARE(dynasty_->session().humanSchool, std::string(DynastyFixture::kHuman));
-    QCOMPARE(dynasty_->session().humanConference, std::string(DynastyFixture::kConference));
+    QCOMPARE(dynasty_->session().humanSchool, std::string(AppDynasty::kHuman));
+    QCOMPARE(dynasty_->session().humanConference, std::string(AppDynasty::kConference));
     QCOMPARE(dynasty_->session().humanScheduleTable, std::string("League1Schedule"));
   }
 
@@ -253,7 +253,7 @@ class MenuGateTest : public QObject {
   }
 
  private:
-  std::unique_ptr<DynastyFixture> dynasty_;
+  std::unique_ptr<AppDynasty> dynasty_;
 };
 
 }  // namespace courtmere::app

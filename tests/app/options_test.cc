@@ -6,19 +6,19 @@
 #include <memory>
 
 #include "app/options_dialog.h"
-#include "dynasty_fixture.h"
+#include "app_dynasty.h"
 #include "store/config.h"
 #include "store/menu_gate.h"
 
 namespace courtmere::app {
 
-using testing::DynastyFixture;
+using testing::AppDynasty;
 
 class OptionsTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { dynasty_ = std::make_unique<DynastyFixture>(); }
+  void init() { dynasty_ = std::make_unique<AppDynasty>(); }
   void cleanup() { dynasty_.reset(); }
 
   void whatIsSubmittedComesBack() {
@@ -56,7 +56,7 @@ class OptionsTest : public QObject {
   }
 
  private:
-  std::unique_ptr<DynastyFixture> dynasty_;
+  std::unique_ptr<AppDynasty> dynasty_;
 };
 
 }  // namespace courtmere::app

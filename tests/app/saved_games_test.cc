@@ -12,11 +12,11 @@
 
 #include "app/intro_screen.h"
 #include "app/main_window.h"
-#include "dynasty_fixture.h"
+#include "app_dynasty.h"
 
 namespace courtmere::app {
 
-using testing::DynastyFixture;
+using testing::AppDynasty;
 
 namespace {
 
@@ -37,7 +37,7 @@ std::string Dump(Store& store) {
 std::string SeasonFigures(Session& session) {
   std::string figures;
   const TeamSeasonLines& team =
-      session.seasonStats.Team(session.seasonStats.FindTeam(DynastyFixture::kHuman));
+      session.seasonStats.Team(session.seasonStats.FindTeam(AppDynasty::kHuman));
   for (const PlayerSeasonLine& p : team.Players) {
     figures +=
         std::to_string(p.Id) + ":" + std::to_string(p.Points) + ":" + std::to_string(p.Games) + " ";
@@ -57,8 +57,8 @@ class SavedGamesTest : public QObject {
 
  private slots:
   void init() {
-    dynasty_ = std::make_unique<DynastyFixture>();
-    dynasty_->PlayGame(DynastyFixture::kHuman, "Duke", 2, "Thursday", false);
+    dynasty_ = std::make_unique<AppDynasty>();
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
     window_ = std::make_unique<MainWindow>(dynasty_->session());
     window_->show();
     window_->RunGate();
@@ -78,7 +78,7 @@ class SavedGamesTest : public QObject {
     const std::string saved = Dump(dynasty_->store());
     const std::string figures = SeasonFigures(dynasty_->session());
 
-    dynasty_->PlayGame("Clemson", DynastyFixture::kHuman, 3, "Saturday", true);
+    dynasty_->PlayGame("Clemson", AppDynasty::kHuman, 3, "Saturday", true);
     dynasty_->store().Exec("UPDATE HeadCoach SET Name = 'Someone Else'");
     dynasty_->SetCalendar("Season", 9);
     window_->StoreChanged();
@@ -154,6 +154,10 @@ class SavedGamesTest : public QObject {
     QVERIFY(!window_->isVisible());
     QVERIFY(!dynasty_->session().StoreOpen());
     QVERIFY(!std::filesystem::exists(save_));
+    // The working store is left blank.
+    Store left(dynasty_->session().folder.Store());
+    QCOMPARE(left.RowCount("Team"), int64_t{0});
+    QCOMPARE(left.RowCount("HeadCoach"), int64_t{0});
   }
 
   void quittingCanSaveFirst() {
@@ -175,7 +179,7 @@ class SavedGamesTest : public QObject {
   }
 
  private:
-  std::unique_ptr<DynastyFixture> dynasty_;
+  std::unique_ptr<AppDynasty> dynasty_;
   std::unique_ptr<MainWindow> window_;
   std::filesystem::path save_;
 };

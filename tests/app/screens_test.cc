@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QMdiSubWindow>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
 #include <memory>
@@ -20,12 +21,12 @@
 #include "app/team_info_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
-#include "dynasty_fixture.h"
+#include "app_dynasty.h"
 #include "screenshots.h"
 
 namespace courtmere::app {
 
-using testing::DynastyFixture;
+using testing::AppDynasty;
 using testing::Screenshot;
 
 namespace {
@@ -58,7 +59,7 @@ class ScreensTest : public QObject {
 
  private slots:
   void init() {
-    dynasty_ = std::make_unique<DynastyFixture>();
+    dynasty_ = std::make_unique<AppDynasty>();
     window_ = std::make_unique<MainWindow>(dynasty_->session());
     window_->show();
   }
@@ -84,14 +85,16 @@ class ScreensTest : public QObject {
   }
 
   void theInboxShowsTheWeeksMessages() {
-    Store& store = dynasty_->store();
-    store.Append("Messages", {{"Type", "Team"},
-                              {"Week", int64_t{3}},
-                              {"Message", "Welcome to St. John's.\nYour first week."}});
-    store.Append("Messages", {{"Type", "Team"}, {"Week", int64_t{2}}, {"Message", "Old news"}});
+    dynasty_->session().inbox.Add("Assistant Coach", "Season Instructions",
+                                  "Welcome to St. John's.\nYour first week.");
+    dynasty_->session().inbox.Add("Trainer", "Injury Update", "All is well.");
     window_->RunGate();
     GridView* inbox = window_->Inbox()->Grid();
-    QCOMPARE(Column(inbox, 1), QStringList{"Welcome to St. John's."});
+    QCOMPARE(Column(inbox, 0), (QStringList{"Assistant Coach", "Trainer"}));
+    QCOMPARE(Column(inbox, 1), (QStringList{"Season Instructions", "Injury Update"}));
+    emit inbox->CellClicked(0, 1);
+    QCOMPARE(window_->Inbox()->findChild<QPlainTextEdit*>()->toPlainText(),
+             QString("Welcome to St. John's.\nYour first week."));
     Screenshot(window_.get(), "main_window");
   }
 
@@ -104,8 +107,8 @@ class ScreensTest : public QObject {
     QVERIFY(values.contains("St. John's"));
     QVERIFY(values.contains("2,270,976"));
     QVERIFY(values.contains("Pat O'Neil"));
-    info->Schools()->setCurrentText(DynastyFixture::kAccented);
-    QVERIFY(Column(info->Grid(), 1).contains(QString::fromUtf8(DynastyFixture::kAccented)));
+    info->Schools()->setCurrentText(AppDynasty::kAccented);
+    QVERIFY(Column(info->Grid(), 1).contains(QString::fromUtf8(AppDynasty::kAccented)));
     Screenshot(window_.get(), "team_info");
   }
 
@@ -119,7 +122,7 @@ class ScreensTest : public QObject {
     Screenshot(window_.get(), "roster");
 
     Store& store = dynasty_->store();
-    const DepthChart stored = LoadDepthChart(store, DynastyFixture::kHuman);
+    const DepthChart stored = LoadDepthChart(store, AppDynasty::kHuman);
     QCOMPARE(roster->ChosenChart().ids, stored.ids);
     // The point guard also starts at shooting guard.
     QComboBox* sg = roster->ChartBox(1);
@@ -129,7 +132,7 @@ class ScreensTest : public QObject {
              QString("Your Depth Chart has the same player starting at two positions. Please "
                      "correct this and re-submit."));
     QCOMPARE(sg->currentData().toInt(), stored.ids[0]);
-    QCOMPARE(LoadDepthChart(store, DynastyFixture::kHuman).ids, stored.ids);
+    QCOMPARE(LoadDepthChart(store, AppDynasty::kHuman).ids, stored.ids);
 
     // The point guards and the shooting guards trade places: a chart that passes.
     for (int string = 0; string < 3; ++string) {
@@ -141,13 +144,13 @@ class ScreensTest : public QObject {
     roster->SubmitChart();
     QCOMPARE(QString::fromStdString(dynasty_->ui().Messages().back()),
              QString("Your Depth Chart is now Updated."));
-    const DepthChart now = LoadDepthChart(store, DynastyFixture::kHuman);
+    const DepthChart now = LoadDepthChart(store, AppDynasty::kHuman);
     QCOMPARE(now.ids[0], stored.ids[1]);
     QCOMPARE(now.ids[1], stored.ids[0]);
 
     roster->findChild<QComboBox*>("cmbPress")->setCurrentText("Full Court");
     roster->SaveTactics();
-    QCOMPARE(LoadTactics(store, DynastyFixture::kHuman).Press, std::string("Full Court"));
+    QCOMPARE(LoadTactics(store, AppDynasty::kHuman).Press, std::string("Full Court"));
   }
 
   void manageRosterOpensItsChangesOnlyAfterTraining() {
@@ -169,9 +172,9 @@ class ScreensTest : public QObject {
   }
 
   void theGameLogOpensLogsAndBoxScores() {
-    const int played = dynasty_->PlayGame(DynastyFixture::kHuman, "Duke", 2, "Thursday", false);
-    dynasty_->PlayGame("Clemson", DynastyFixture::kHuman, 3, "Saturday", true);
-    dynasty_->ScheduleGame(DynastyFixture::kAccented, DynastyFixture::kHuman, 4, "Thursday");
+    const int played = dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
+    dynasty_->PlayGame("Clemson", AppDynasty::kHuman, 3, "Saturday", true);
+    dynasty_->ScheduleGame(AppDynasty::kAccented, AppDynasty::kHuman, 4, "Thursday");
     QVERIFY(played > 0);
     window_->RunGate();
     window_->Entry("mnuSeasonViewGameLogs")->trigger();
@@ -179,7 +182,7 @@ class ScreensTest : public QObject {
     QVERIFY(log);
     GridView* grid = log->Grid();
     QCOMPARE(Column(grid, 3),
-             (QStringList{"Duke", "Clemson", QString::fromUtf8(DynastyFixture::kAccented)}));
+             (QStringList{"Duke", "Clemson", QString::fromUtf8(AppDynasty::kAccented)}));
     QVERIFY(Column(grid, 5)[0] == "Win" || Column(grid, 5)[0] == "Loss");
     QCOMPARE(Column(grid, 5)[2], QString(""));
     Screenshot(window_.get(), "game_log");
@@ -217,7 +220,7 @@ class ScreensTest : public QObject {
   }
 
   void anUnknownNameOnABoxScoreSaysSo() {
-    dynasty_->PlayGame(DynastyFixture::kHuman, "Duke", 2, "Thursday", false);
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
     const std::string box = *dynasty_->store().ScalarText("SELECT BoxScore FROM NonConfSchedule");
     dynasty_->store().Exec("UPDATE Player SET AbbrName = 'Somebody Else' WHERE Team = 'Duke'");
     window_->OpenBoxScore(box);
@@ -229,7 +232,7 @@ class ScreensTest : public QObject {
   }
 
   void teamStatsShowTheSeasonSoFar() {
-    dynasty_->PlayGame(DynastyFixture::kHuman, "Duke", 2, "Thursday", false);
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
     window_->RunGate();
     window_->Entry("mnuManagementTeamStats")->trigger();
     auto* stats = Find<TeamStatsScreen>(*window_);
@@ -243,7 +246,7 @@ class ScreensTest : public QObject {
   }
 
  private:
-  std::unique_ptr<DynastyFixture> dynasty_;
+  std::unique_ptr<AppDynasty> dynasty_;
   std::unique_ptr<MainWindow> window_;
 };
 

@@ -181,6 +181,17 @@ TEST(CoachRoles, TheCoachBestAtBothTakesTheRoleWhereHeLeadsByMore) {
   EXPECT_EQ(s.ScalarInt("SELECT Id FROM Coach WHERE OffPoints = 1"), 4);
   EXPECT_EQ(s.ScalarInt("SELECT Id FROM Coach WHERE DefPoints = 1"), 5);
 
+  // A role without a holder draws both again: the defensive role that
+  // stood with coach 6 goes to coach 5, and coach 6 keeps none.
+  s.Exec("UPDATE Coach SET OffPoints = 0, DefPoints = 0, RecPoints = 2");
+  s.Exec("UPDATE Coach SET DefPoints = 1, RecPoints = 1 WHERE Id = 6");
+  SetCoachRoles(league.session(), "Duke");
+  EXPECT_EQ(s.ScalarInt("SELECT Id FROM Coach WHERE OffPoints = 1"), 4);
+  EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Coach WHERE DefPoints = 1"), 1);
+  EXPECT_EQ(s.ScalarInt("SELECT Id FROM Coach WHERE DefPoints = 1"), 5);
+  EXPECT_EQ(s.ScalarInt("SELECT RecPoints FROM Coach WHERE Id = 6"), 2);
+  EXPECT_EQ(s.ScalarInt("SELECT Sum(RecPoints) FROM Coach"), 4);
+
   // A lone coach holds both roles.
   s.Exec("DELETE FROM Coach");
   add(7, 50, 40);

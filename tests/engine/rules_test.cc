@@ -5,6 +5,7 @@
 
 #include "engine/add_stat.h"
 #include "engine/fatigue.h"
+#include "engine/game_driver.h"
 #include "engine/injury.h"
 #include "engine/offence.h"
 #include "engine/play_text.h"
@@ -284,6 +285,30 @@ TEST_F(Rules, AddStatKeepsPlusMinusAndTeamFouls) {
   AddStat(game, Stat::Foul, SideWordRole::Offense, 1);  // a charge
   EXPECT_EQ(Home().Fouls, 1);
   EXPECT_EQ(game.Away().Fouls, 0);
+}
+
+// When no defender's foul value is above 0, PickFouler names nobody, yet
+// the end-game cycle books its fouls all the same: to the team, towards the
+// bonus, and to no man's line.
+TEST_F(Rules, AFoulWithNoFoulerCountsForTheTeamOnly) {
+  game.WriteLog = true;
+  game.Half = 2;
+  GameSide& defence = game.Away();
+  for (int i = 1; i <= 12; ++i) {
+    defence.Roster[i].Steal = 0;
+    defence.Roster[i].DefAware = 100;
+  }
+  BuildFloor(game);
+  EXPECT_EQ(PickFouler(game, 35, Side::Away), 0);
+  FoulCycle(game, false);
+  EXPECT_EQ(defence.Fouls, 7);  // the cycle ran on to the bonus
+  EXPECT_EQ(defence.Team().Fouls, 7);
+  EXPECT_EQ(defence.Unattributed.Fouls, 7);
+  for (int i = 1; i <= 12; ++i) EXPECT_EQ(defence.Stats[i].Fouls, 0) << i;
+  EXPECT_GE(Home().Team().FreeThrowAttempts, 1);
+  // The foul's line names nobody.
+  ASSERT_GT(game.LogCount, 0);
+  EXPECT_NE(game.GameLogLines[0].find("Fouled By  "), std::string::npos) << game.GameLogLines[0];
 }
 
 TEST(PlayTexts, BandEdgesDifferFromVariantToVariant) {

@@ -39,12 +39,15 @@ void ExpectConsistent(const Player& stored) {
   EXPECT_DOUBLE_EQ(p.Overall, stored.Overall);
 }
 
+// What holds for every player of a roster whatever his class and years; the
+// builders' tests pin each span. The twelve ratings that develop start at
+// 25 at least and are capped at 100 after the last year.
 void ExpectInRange(const Player& p) {
   for (int Player::*r :
        {&Player::Jumpshot, &Player::InScoring, &Player::ThreePoint, &Player::PerrDefense,
         &Player::PostDefense, &Player::DefReb, &Player::OffReb, &Player::Handling,
         &Player::OffAware, &Player::DefAware, &Player::Passing, &Player::Strength}) {
-    EXPECT_GE(p.*r, 15) << p.Id;
+    EXPECT_GE(p.*r, 25) << p.Id;
     EXPECT_LE(p.*r, 100) << p.Id;
   }
   EXPECT_GE(p.Quickness, 20);
@@ -192,8 +195,20 @@ TEST(CreatePlayers, WithNoPositionBelowTheCapTheRollIsTakenAsItCame) {
   testing::LeagueFixture league(9);
   PlayerBatch batch = PlayerBatch::Begin(league.session());
   for (int position = kPG; position <= kC; ++position) batch.positions[position] = 1;
-  CreatePlayers(league.session(), batch, "Team A", "East", 50, 20, 1, 1);
-  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'Team A'"), 20);
+  CreatePlayers(league.session(), batch, "Team A", "East", 50, 60, 1, 1);
+  // Each man is built at the position of his own roll, with its height.
+  const std::array<std::pair<int, int>, 6> heights = {
+      {{0, 0}, {68, 74}, {73, 77}, {75, 80}, {77, 82}, {79, 86}}};
+  std::array<int, 6> made{};
+  for (const Player& p : PlayersOf(league.store(), "Team A")) {
+    ++made[p.PlayerPosition];
+    EXPECT_GE(p.Reach, heights[p.PlayerPosition].first) << p.PlayerPosition;
+    EXPECT_LE(p.Reach, heights[p.PlayerPosition].second) << p.PlayerPosition;
+  }
+  for (int position = kPG; position <= kC; ++position) {
+    EXPECT_GT(made[position], 1) << position;
+    EXPECT_EQ(batch.positions[position], 1 + made[position]);
+  }
 }
 
 TEST(AddWalkOns, FillsShortRostersWithSeniors) {
@@ -225,31 +240,69 @@ TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", good), 0);
 }
 
-TEST(RegionRecruits, ReturningJuniorCollegeMenCountAgainstTheClass) {
+TEST(RegionRecruits, ARegionHoldsFiftyOneEarlyLeaversAtMostTheBestOnes) {
+  testing::LeagueFixture league(15);
+  league.AddTeam("West U", "West", 70);
+  league.AddTeam("West State", "West", 70);
+  std::vector<int> ids;
+  for (int i = 0; i < 60; ++i) {
+    // All above 86, so each would leave; the best come first.
+    ids.push_back(
+        league.AddPlayer(i % 2 == 0 ? "West U" : "West State", kSF, 87 + i * 0.1, "Sophomore"));
+  }
+  league.AddPlayer("West U", kPG, 60, "Senior");
+  EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 1 + 51 + 5);
+  for (int i = 0; i < 60; ++i) {
+    EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", ids[i]),
+              i >= 9 ? 1 : 0)
+        << i;
+  }
+}
+
+TEST(RegionRecruits, AReturningJuniorCollegeManKeepsHisYearAndCountsAgainstTheClass) {
   testing::LeagueFixture league(13);
   league.AddTeam("West U", "West", 70);
   league.AddPlayer("West U", kPG, 60, "Senior");
-  const int jc = league.AddPlayer("West", kC, 55, "JC");
+  const int jc = league.AddPlayer("West", kC, 55, "JCRecruit");
+  league.store().Exec("UPDATE Player SET HighSchool = 'Bay High' WHERE Id = ?", jc);
   league.store().Append("Recruit", {{"Id", int64_t{jc}},
                                     {"Region", "West"},
                                     {"Area", "CA"},
                                     {"RecruitType", "Good"},
-                                    {"TeamChoice", "Old U"},
-                                    {"InEligible", int64_t{2001}}});
+                                    {"ScoutingReport", "Old report."},
+                                    {"InEligible", int64_t{2001}},
+                                    {"TestScore", int64_t{42}},
+                                    {"RankPoints", 61.25},
+                                    {"PosRank", int64_t{3}},
+                                    {"Top50Rank", int64_t{17}}});
   PlayerBatch batch = PlayerBatch::Begin(league.session());
+  batch.recruitInterest = [](Session&, Recruit& r, const Player&) { r.Team1 = "West U"; };
   CreateRegionRecruits(league.session(), batch, "West");
   // N = 1 senior + 0 leavers + 5; one returns, five are new.
   EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Player WHERE Team = 'West'"), 6);
   EXPECT_EQ(league.store().RowCount("Recruit"), 6);
   Rows rows = league.store().Query(
-      "SELECT RecruitType, Area, InEligible, TeamChoice, ScoutingReport FROM Recruit WHERE Id = ?",
+      "SELECT RecruitType, Area, InEligible, TestScore, RankPoints, PosRank, Top50Rank, "
+      "TeamChoice, ScoutingReport, Team1, PPG FROM Recruit WHERE Id = ?",
       jc);
   ASSERT_TRUE(rows.Next());
   EXPECT_EQ(rows.Text(0), "Good");
   EXPECT_EQ(rows.Text(1), "CA");
-  EXPECT_EQ(rows.Int(2), 0);
-  EXPECT_TRUE(rows.IsNull(3));
-  EXPECT_NE(rows.Text(4), "");
+  // The year he may sign in, his test and his ranks stay: he can be signed
+  // this season and his row survives the clearing of the pool.
+  EXPECT_EQ(rows.Int(2), 2001);
+  EXPECT_EQ(rows.Int(3), 42);
+  EXPECT_DOUBLE_EQ(rows.Double(4), 61.25);
+  EXPECT_EQ(rows.Int(5), 3);
+  EXPECT_EQ(rows.Int(6), 17);
+  EXPECT_TRUE(rows.IsNull(7));
+  // A new first report, interest list and statistics.
+  EXPECT_NE(rows.Text(8), "Old report.");
+  EXPECT_NE(rows.Text(8), "");
+  EXPECT_EQ(rows.Text(9), "West U");
+  EXPECT_GT(rows.Double(10), 0);
+  EXPECT_EQ(league.store().ScalarText("SELECT HighSchool FROM Player WHERE Id = ?", jc),
+            "CA JC(Bay High)");
 }
 
 TEST(CreateScrubTeamRoster, ThirteenBackgroundPlayersWithoutSideRows) {

@@ -42,6 +42,30 @@ TEST(StaffCreation, ANewDynastyGivesEachSchoolItsStaffAndTwoCandidatesOfEach) {
   EXPECT_EQ(s.RowCount("Scout"), 15);
 }
 
+// At a new dynasty no school has a Prestige yet, so every one rolls its
+// staff's class out of 100 and can draw "Poor" men; a school of prestige 80
+// never does. Only a "Poor" man has a coach's Salary below 15, a scout's
+// Potential or a trainer's Ability below 45.
+TEST(StaffCreation, ASchoolWithoutPrestigeRollsOutOfAHundred) {
+  testing::LeagueFixture league(4);
+  for (int i = 0; i < 30; ++i) {
+    league.store().Append("Team", {{"SchoolName", "New " + std::to_string(i)}});
+    league.AddTeam("Old " + std::to_string(i), "East", 80);
+  }
+  CreateCoaches(league.session(), 0);
+  CreateScouts(league.session(), 0);
+  CreateTrainers(league.session(), 0);
+  Store& s = league.store();
+  const std::string poorCoaches = "SELECT count(*) FROM Coach WHERE Salary < 15 AND Team LIKE ?";
+  const std::string poorScouts = "SELECT count(*) FROM Scout WHERE Potential < 45 AND Team LIKE ?";
+  const std::string poorTrainers =
+      "SELECT count(*) FROM Trainer WHERE Ability < 45 AND Team LIKE ?";
+  for (const std::string& sql : {poorCoaches, poorScouts, poorTrainers}) {
+    EXPECT_GT(Count(s, sql, "%New %"), 0) << sql;
+    EXPECT_EQ(Count(s, sql, "%Old %"), 0) << sql;
+  }
+}
+
 TEST(StaffCreation, ClassRollShrinksWithPrestige) {
   EXPECT_EQ(CoachRollSize(76), 30);
   EXPECT_EQ(CoachRollSize(75), 40);

@@ -82,6 +82,26 @@ TEST_F(RosterRulesTest, RedshirtOnceInACareer) {
   EXPECT_EQ(store().ScalarInt("SELECT Redshirt FROM Player WHERE Id = ?", ids_[2]), 0);
 }
 
+TEST_F(RosterRulesTest, OnlyARedshirtingManCanBeActivated) {
+  store().Exec("UPDATE Config SET Stage = 'Season' WHERE IdConfig = 0");
+  store().Exec("UPDATE Player SET Redshirt = 2 WHERE Id = ?", ids_[5]);
+  // Never redshirted, or his redshirt year used: nothing to activate, and
+  // nothing is asked, said or changed.
+  EXPECT_FALSE(ActivatePlayer(session(), ids_[4]));
+  EXPECT_FALSE(ActivatePlayer(session(), ids_[5]));
+  EXPECT_TRUE(league_.ui().Questions().empty());
+  EXPECT_TRUE(messages().empty());
+  EXPECT_EQ(store().ScalarInt("SELECT Redshirt FROM Player WHERE Id = ?", ids_[4]), 0);
+  EXPECT_EQ(store().ScalarInt("SELECT Redshirt FROM Player WHERE Id = ?", ids_[5]), 2);
+
+  // A redshirting man who is asked and the user says no stays a redshirt.
+  store().Exec("UPDATE Player SET Redshirt = 1 WHERE Id = ?", ids_[6]);
+  league_.ui().QueueAnswer(false);
+  EXPECT_FALSE(ActivatePlayer(session(), ids_[6]));
+  EXPECT_EQ(store().ScalarInt("SELECT Redshirt FROM Player WHERE Id = ?", ids_[6]), 1);
+  EXPECT_TRUE(messages().empty());
+}
+
 TEST_F(RosterRulesTest, SwitchPositionOnlyBeforeTheSeason) {
   EXPECT_TRUE(SwitchPosition(session(), ids_[0], 4));
   EXPECT_EQ(messages().back(), Name(ids_[0]) + " has been switched to PF.");

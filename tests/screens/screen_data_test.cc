@@ -20,12 +20,9 @@ std::string ValueOf(const std::vector<InfoLine>& lines, const std::string& label
   return "(missing)";
 }
 
-TEST(DisplayFormatTest, CountsHaveAtLeastFourDigitsInGroupsOfThree) {
-  EXPECT_EQ(FormatThousands(11939), "11,939");
-  EXPECT_EQ(FormatThousands(500), "0,500");
-  EXPECT_EQ(FormatThousands(0), "0,000");
-  EXPECT_EQ(FormatThousands(2270976), "2,270,976");
+TEST(DisplayFormatTest, FiguresHaveOneDecimalRoundedHalfToEven) {
   EXPECT_EQ(FormatOneDecimal(12.25), "12.2");
+  EXPECT_EQ(FormatOneDecimal(0.75), "0.8");
   EXPECT_EQ(FormatPercent(0.4375), "43.8");
 }
 

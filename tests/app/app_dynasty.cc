@@ -1,4 +1,4 @@
-#include "dynasty_fixture.h"
+#include "app_dynasty.h"
 
 #include "cpu/computer_roster.h"
 #include "engine/post_game.h"
@@ -11,7 +11,7 @@
 
 namespace courtmere::testing {
 
-DynastyFixture::DynastyFixture(uint64_t seed) {
+AppDynasty::AppDynasty(uint64_t seed) {
   session_ = std::make_unique<Session>(ProgramFolder(dir_.Path()), Rng(seed), ui_);
   StartUp(*session_);
   Store& s = store();
@@ -42,8 +42,8 @@ DynastyFixture::DynastyFixture(uint64_t seed) {
   LoadSeasonStats(session());
 }
 
-void DynastyFixture::AddSchool(const std::string& school, const std::string& region, int prestige,
-                               const std::string& owner) {
+void AppDynasty::AddSchool(const std::string& school, const std::string& region, int prestige,
+                           const std::string& owner) {
   store().Append("Team", {{"SchoolName", school},
                           {"State", "NY"},
                           {"Location", "Queens"},
@@ -64,14 +64,14 @@ void DynastyFixture::AddSchool(const std::string& school, const std::string& reg
   store().Append("TeamStats", {{"SchoolName", school}});
 }
 
-void DynastyFixture::SetCalendar(const std::string& stage, int week) {
+void AppDynasty::SetCalendar(const std::string& stage, int week) {
   store().Exec("UPDATE Config SET Stage = ?, CurrWeek = ? WHERE IdConfig = 0", stage, week);
   session().config.Stage = stage;
   session().config.CurrWeek = week;
 }
 
-int DynastyFixture::PlayGame(const std::string& home, const std::string& away, int week,
-                             const std::string& day, bool conference) {
+int AppDynasty::PlayGame(const std::string& home, const std::string& away, int week,
+                         const std::string& day, bool conference) {
   Session& s = session();
   GameRequest request;
   request.HomeTeam = home;
@@ -102,8 +102,8 @@ int DynastyFixture::PlayGame(const std::string& home, const std::string& away, i
   return request.GameNo;
 }
 
-void DynastyFixture::ScheduleGame(const std::string& home, const std::string& away, int week,
-                                  const std::string& day) {
+void AppDynasty::ScheduleGame(const std::string& home, const std::string& away, int week,
+                              const std::string& day) {
   store().Append("NonConfSchedule", {{"GameNo", int64_t{++session().config.MaxGameNo}},
                                      {"Week", int64_t{week}},
                                      {"GameDay", day},

@@ -15,13 +15,13 @@
 
 namespace courtmere::testing {
 
-class DynastyFixture {
+class AppDynasty {
  public:
   static constexpr const char* kHuman = "St. John's";
   static constexpr const char* kAccented = "Québec A&M";
   static constexpr const char* kConference = "Big East";
 
-  explicit DynastyFixture(uint64_t seed = 7);
+  explicit AppDynasty(uint64_t seed = 7);
 
   Session& session() { return *session_; }
   Store& store() { return session_->Db(); }
