@@ -69,10 +69,6 @@ QString PlayerCardScreen::Key() const {
   return QString("PlayerCard:%1").arg(playerId_);
 }
 
-QString PlayerCardScreen::NameShown() const {
-  return title_->text();
-}
-
 void PlayerCardScreen::Refresh() {
   const std::optional<PlayerCard> card = LoadPlayerCard(session_, playerId_);
   if (!card) {

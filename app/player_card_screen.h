@@ -19,7 +19,6 @@ class PlayerCardScreen : public Screen {
   QString Caption() const override;
   QString Key() const override;
   void Refresh() override;
-  QString NameShown() const;
 
  private:
   int playerId_;

@@ -39,8 +39,4 @@ void ProgressWindow::SetPercent(int percent) {
   bar_->setValue(std::clamp(percent, 0, 100));
 }
 
-QString ProgressWindow::Caption() const {
-  return caption_->text();
-}
-
 }  // namespace courtmere::app

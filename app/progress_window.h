@@ -17,7 +17,6 @@ class ProgressWindow : public QDialog {
   // Shows the window with the caption and an empty bar.
   void Start(const QString& caption);
   void SetPercent(int percent);
-  QString Caption() const;
 
  private:
   QLabel* caption_;

@@ -26,9 +26,8 @@ class RosterScreen : public Screen {
   // What the lists show, as the rules read it.
   DepthChart ChosenChart() const;
   Tactics ChosenTactics() const;
-  // The chart's list at a place (0 to 14, PG1 .. C3) and the inactive list.
+  // The chart's list at a place (0 to 14, PG1 .. C3).
   QComboBox* ChartBox(int place) const { return chart_[place]; }
-  QComboBox* InactiveBox() const { return inactive_; }
   GridView* Grid() const { return grid_; }
 
   void SubmitChart();    // cmdSubmit
