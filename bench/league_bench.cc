@@ -5,74 +5,14 @@
 // challenge games, ranks, computer rosters, letter, and the compaction).
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
 #include <memory>
-#include <stdexcept>
 
+#include "bench_program.h"
 #include "league/start_season.h"
-#include "platform/scripted_ui.h"
 #include "screens/new_dynasty_run.h"
-#include "store/blank_store.h"
-#include "store/session.h"
 
 namespace courtmere {
 namespace {
-
-namespace fs = std::filesystem;
-
-NewDynastyRequest Request() {
-  NewDynastyRequest request;
-  request.conferences = {"MVC", "WAC", "Atlantic 10"};
-  request.school = "St. John's";
-  request.coach = "D'Angelo O'Neil";
-  return request;
-}
-
-// A program folder of its own whose store starts as a copy of `store`.
-class BenchProgram {
- public:
-  BenchProgram(const std::string& tag, const fs::path& store, uint64_t seed)
-      : root_(fs::temp_directory_path() / ("courtmere-bench-" + tag)) {
-    fs::remove_all(root_);
-    fs::create_directories(root_);
-    session_ = std::make_unique<Session>(ProgramFolder(root_), Rng(seed), ui_);
-    fs::copy_file(store, session_->folder.Store());
-    session_->store = std::make_unique<Store>(session_->folder.Store());
-    session_->config = LoadConfig(session_->Db());
-  }
-  ~BenchProgram() {
-    session_.reset();
-    fs::remove_all(root_);
-  }
-  Session& session() { return *session_; }
-
- private:
-  fs::path root_;
-  ScriptedUi ui_;
-  std::unique_ptr<Session> session_;
-};
-
-// The stores the iterations start from, made once.
-const fs::path& BlankStore() {
-  static const fs::path file = [] {
-    const fs::path f = fs::temp_directory_path() / "courtmere-bench-blank.dat";
-    BuildBlankStore(f);
-    return f;
-  }();
-  return file;
-}
-
-const fs::path& NewDynastyStore() {
-  static const fs::path file = [] {
-    const fs::path f = fs::temp_directory_path() / "courtmere-bench-dynasty.dat";
-    BenchProgram program("dynasty-template", BlankStore(), 1);
-    if (!RunNewDynasty(program.session(), Request())) throw std::runtime_error("File > New");
-    program.session().store.reset();
-    fs::copy_file(program.session().folder.Store(), f, fs::copy_options::overwrite_existing);
-    return f;
-  }();
-  return file;
-}
 
 void BM_NewDynasty(benchmark::State& state) {
   uint64_t seed = 1;

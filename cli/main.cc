@@ -23,6 +23,12 @@ int main(int argc, char** argv) {
   courtmere::cli::AddNonConfCommand(app, context);
   courtmere::cli::AddSaveCommand(app, context);
   courtmere::cli::AddLoadCommand(app, context);
+  courtmere::cli::AddSimCommand(app, context);
+  courtmere::cli::AddAutoSimCommand(app, context);
+  courtmere::cli::AddInboxCommand(app, context);
+  courtmere::cli::AddBoxCommand(app, context);
+  courtmere::cli::AddLogCommand(app, context);
+  courtmere::cli::AddBenchSeasonCommand(app, context);
 
   try {
     app.parse(argc, argv);

@@ -34,8 +34,8 @@ void UpdateBackgroundStats(SeasonRun& run, int games) {
 void WriteScholarships(Session& session) {
   Store& store = session.Db();
   for (const std::string& school : Schools(store)) {
-    store.Exec("UPDATE Team SET Scholarships = ? WHERE SchoolName = ?",
-               Scholarships(store, school), school);
+    store.Exec("UPDATE Team SET Scholarships = ? WHERE SchoolName = ?", Scholarships(store, school),
+               school);
   }
 }
 
