@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 #include "engine/run_engine.h"
@@ -178,13 +180,15 @@ TEST_F(DayStep, ALastDayWithoutGamesStillEndsItsWeek) {
   for (const std::string& table : SeasonScheduleTables(store())) {
     store().Exec("DELETE FROM " + table + " WHERE Week = 3 AND GameDay = 'Saturday'");
   }
-  const int hurt = *store().ScalarInt("SELECT PG2 FROM Team WHERE SchoolName = ?", kUserSchool);
+  // The inactive man may be hurt without stopping the day.
+  const int hurt =
+      *store().ScalarInt("SELECT Inactive FROM Team WHERE SchoolName = ?", kUserSchool);
   store().Exec("UPDATE Player SET Health = 'Knee', TimeInjured = 1 WHERE Id = ?", hurt);
   store().Exec("UPDATE Trainer SET Ability = 100 WHERE Team = ?", kUserSchool);
-  store().Exec("UPDATE Team SET PG2 = PG3 WHERE SchoolName = ?", kUserSchool);
-  ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
+  ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed) << ui().Messages().back();
   EXPECT_EQ(config().CurrWeek, 4);
   EXPECT_EQ(config().CurrDay, "Thursday");
+  // Hurt and healed between two of the trainer's letters: told neither way.
   EXPECT_EQ(Subjects(session().inbox), (std::vector<std::string>{"Academic Update"}));
   EXPECT_EQ(session().inbox.Week, 3);
   // One week of healing with a trainer of 100 heals a man with a week left
@@ -228,34 +232,63 @@ TEST_F(DayStep, TheUsersGameHeadsTheListAndTheListKeepsItsResults) {
   EXPECT_EQ(UnplayedOn(store(), 2, "Thursday"), 0);
 }
 
-// The engine fails after a few games of the day: nothing of the day stays,
-// and the next press plays the whole day.
-TEST_F(DayStep, AStepThatFailsMidBatchLeavesThePreviousDay) {
+// The engine fails after a few games of the day, in the user's list or in
+// the rest of the day: nothing of the day stays, and the next press plays
+// the whole day.
+class FailingDay : public SeasonFixture, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(FailingDay, LeavesThePreviousDayAndTheNextPressPlaysItWhole) {
+  const bool inList = GetParam();
   GoTo(2, "Thursday");
   const int64_t games = GamesOn(store(), 2, "Thursday");
-  ASSERT_GT(games, 10);
+  const int listed = static_cast<int>(OpenDayScreen(session()).rows.size());
+  ASSERT_GT(listed, 3);
+  ASSERT_GT(games, listed + 3);
+  const int failAt = inList ? 3 : listed + 3;
   int played = 0;
-  run().runGame = [&played](Game& game, DayResults& day, const GameRequest& request,
-                            std::string& box, std::string& log) {
-    if (++played > 8) throw std::runtime_error("the engine broke down");
+  bool failing = true;
+  run().runGame = [&played, &failing, failAt](Game& game, DayResults& day,
+                                              const GameRequest& request, std::string& box,
+                                              std::string& log) {
+    if (++played == failAt && failing) throw std::runtime_error("the engine broke down");
     return RunEngine(game, day, request, box, log);
   };
   const std::string before = DumpStore(store());
   const int pointsBefore = TotalSeasonPoints(session().seasonStats);
   EXPECT_EQ(SimDay(run()), DayOutcome::kFailed);
-  EXPECT_GT(played, 8);
+  EXPECT_EQ(played, failAt);
   EXPECT_TRUE(DumpStore(store()) == before);
   EXPECT_EQ(TotalSeasonPoints(session().seasonStats), pointsBefore);
   EXPECT_EQ(config().CurrDay, "Thursday");
-  EXPECT_TRUE(ui().Messages().back().starts_with("The error occured in SimDay."))
+  EXPECT_TRUE(ui().Messages().back().starts_with(inList ? "Error in SimGames, the error code is "
+                                                        : "The error occured in SimDay."))
       << ui().Messages().back();
 
-  run().runGame = RunEngine;
+  played = 0;
+  failing = false;
   ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
+  EXPECT_EQ(played, games);
   EXPECT_EQ(UnplayedOn(store(), 2, "Thursday"), 0);
-  EXPECT_EQ(GamesOn(store(), 2, "Thursday"), games);
   EXPECT_GT(TotalSeasonPoints(session().seasonStats), pointsBefore);
   EXPECT_EQ(config().CurrDay, "Saturday");
+}
+
+INSTANTIATE_TEST_SUITE_P(DayStep, FailingDay, ::testing::Bool());
+
+// Box scores on, and no folder to write them to: the step ends with the
+// error and the store at the previous day.
+TEST_F(DayStep, ABoxScoreThatCannotBeWrittenEndsTheStep) {
+  store().Exec("UPDATE Config SET NumPlayers = 1 WHERE IdConfig = 0");
+  session().config.NumPlayers = 1;
+  const std::filesystem::path logs = folder() / "log";
+  std::filesystem::remove_all(logs);
+  { std::ofstream blocker(logs); }
+  GoTo(2, "Thursday");
+  const std::string before = DumpStore(store());
+  EXPECT_EQ(SimDay(run()), DayOutcome::kFailed);
+  EXPECT_TRUE(DumpStore(store()) == before);
+  EXPECT_TRUE(ui().Messages().back().starts_with("Error in SimGames, the error code is "))
+      << ui().Messages().back();
 }
 
 }  // namespace

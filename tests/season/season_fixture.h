@@ -4,6 +4,8 @@
 // driver on it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
 
@@ -12,7 +14,7 @@
 
 namespace courtmere::testing {
 
-class SeasonFixture : public DynastyFixture {
+class SeasonFixture : public ::testing::Test, public DynastyFixture {
  public:
   SeasonFixture();
   SeasonRun& run() { return *run_; }

@@ -19,6 +19,7 @@ struct Result {
   std::string day;
   std::string home;
   std::string away;
+  std::string type;
   int homeScore;
   int awayScore;
 };
@@ -26,11 +27,11 @@ struct Result {
 std::vector<Result> AllGames(Store& store) {
   std::vector<Result> games;
   for (const std::string& table : SeasonScheduleTables(store)) {
-    for (Rows r = store.Query("SELECT Week, GameDay, HomeTeam, AwayTeam, HomeScore, AwayScore "
-                              "FROM " +
+    for (Rows r = store.Query("SELECT Week, GameDay, HomeTeam, AwayTeam, GameType, HomeScore, "
+                              "AwayScore FROM " +
                               table);
          r.Next();) {
-      games.push_back({r.Int(0), r.Text(1), r.Text(2), r.Text(3), r.Int(4), r.Int(5)});
+      games.push_back({r.Int(0), r.Text(1), r.Text(2), r.Text(3), r.Text(4), r.Int(5), r.Int(6)});
     }
   }
   return games;
@@ -51,8 +52,12 @@ void ExpectEveryRegularGamePlayedOnce(Store& store) {
       EXPECT_NE(g.homeScore, 0) << g.home << " v " << g.away << " week " << g.week;
       EXPECT_NE(g.homeScore, g.awayScore) << g.home << " v " << g.away;
     }
-    ++appearances[{g.week, g.day, g.home}];
-    ++appearances[{g.week, g.day, g.away}];
+    // The conference challenge of Sunday of week 1, drawn at the start of
+    // the season, may meet a preseason tournament's final on that day; the
+    // schedule allows it, so the check counts the challenge games apart.
+    const std::string kind = g.week == 1 && g.type == "NonConference" ? " (challenge)" : "";
+    ++appearances[{g.week, g.day + kind, g.home}];
+    ++appearances[{g.week, g.day + kind, g.away}];
   }
   for (const auto& [slot, count] : appearances) {
     EXPECT_EQ(count, 1) << std::get<2>(slot) << " in week " << std::get<0>(slot) << ", "
@@ -93,7 +98,10 @@ void ExpectRecordsAreTheScheduleResults(Store& store) {
 
 using WholeSeason = SeasonFixture;
 
+// The user's chart is kept by the computer, as the command-line tool keeps
+// it, so that his injured men do not stop the season at the guard.
 TEST_F(WholeSeason, PlayedPressByPressToSeasonOver) {
+  run().cpuSetsUserTeam = true;
   SimTo(21, "Monday");
   EXPECT_EQ(config().Stage, "Season Over");
   EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");

@@ -133,22 +133,23 @@ TEST_F(WeeklyEvents, EachInjuryIsToldOnceAndItsHealingOnce) {
   store().Exec("UPDATE Player SET Health = 'Ankle', InjuryUpdate = 0 WHERE Id = ?", men[1]);
   // Hurt and healed between two letters: told neither way.
   store().Exec("UPDATE Player SET Health = 'Good', InjuryUpdate = 0 WHERE Id = ?", men[2]);
+  std::vector<InboxMessage>& letters = session().inbox.Messages;
+  letters.clear();
   InjuryReport(session());
-  ASSERT_EQ(session().inbox.Messages.size(), 1u);
-  EXPECT_EQ(session().inbox.Messages[0].Sender, "Trainer");
-  EXPECT_EQ(session().inbox.Messages[0].Subject, "Injury Update");
-  EXPECT_EQ(session().inbox.Messages[0].Text,
+  ASSERT_EQ(letters.size(), 1u);
+  EXPECT_EQ(letters[0].Sender, "Trainer");
+  EXPECT_EQ(letters[0].Subject, "Injury Update");
+  EXPECT_EQ(letters[0].Text,
             "The following St. John's players have been injured. Check the injury log for more "
             "details on their severity.\n" +
                 name);
   EXPECT_EQ(*store().ScalarInt("SELECT count(*) FROM Messages WHERE Type = 'Injury'"), 1);
   InjuryReport(session());
-  EXPECT_EQ(session().inbox.Messages.size(), 1u);
+  EXPECT_EQ(letters.size(), 1u);
   store().Exec("UPDATE Player SET Health = 'Good' WHERE Id = ?", men[1]);
   InjuryReport(session());
-  ASSERT_EQ(session().inbox.Messages.size(), 2u);
-  EXPECT_EQ(session().inbox.Messages[1].Text,
-            "The following St. John's players are now healthy:\n" + name);
+  ASSERT_EQ(letters.size(), 2u);
+  EXPECT_EQ(letters[1].Text, "The following St. John's players are now healthy:\n" + name);
 }
 
 TEST_F(WeeklyEvents, TheInboxIsKeptWeekByWeekInTheStore) {
