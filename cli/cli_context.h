@@ -48,5 +48,8 @@ void AddStandingsCommand(CLI::App& app, CliContext& context);
 void AddTeamsCommand(CLI::App& app, CliContext& context);
 void AddScheduleCommand(CLI::App& app, CliContext& context);
 void AddNonConfCommand(CLI::App& app, CliContext& context);
+void AddPollCommand(CLI::App& app, CliContext& context);
+void AddCriCommand(CLI::App& app, CliContext& context);
+void AddAwardsCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -23,6 +23,9 @@ int main(int argc, char** argv) {
   courtmere::cli::AddNonConfCommand(app, context);
   courtmere::cli::AddSaveCommand(app, context);
   courtmere::cli::AddLoadCommand(app, context);
+  courtmere::cli::AddPollCommand(app, context);
+  courtmere::cli::AddCriCommand(app, context);
+  courtmere::cli::AddAwardsCommand(app, context);
 
   try {
     app.parse(argc, argv);
