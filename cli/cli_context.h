@@ -54,5 +54,8 @@ void AddInboxCommand(CLI::App& app, CliContext& context);
 void AddBoxCommand(CLI::App& app, CliContext& context);
 void AddLogCommand(CLI::App& app, CliContext& context);
 void AddBenchSeasonCommand(CLI::App& app, CliContext& context);
+void AddPollCommand(CLI::App& app, CliContext& context);
+void AddCriCommand(CLI::App& app, CliContext& context);
+void AddAwardsCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

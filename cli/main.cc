@@ -29,6 +29,9 @@ int main(int argc, char** argv) {
   courtmere::cli::AddBoxCommand(app, context);
   courtmere::cli::AddLogCommand(app, context);
   courtmere::cli::AddBenchSeasonCommand(app, context);
+  courtmere::cli::AddPollCommand(app, context);
+  courtmere::cli::AddCriCommand(app, context);
+  courtmere::cli::AddAwardsCommand(app, context);
 
   try {
     app.parse(argc, argv);
