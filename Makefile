@@ -14,8 +14,15 @@ configure: deps
 build: configure
 	@cmake --build $(BUILD_DIR) -j$(JOBS)
 
+# The desktop program; on a machine without a display, a headless
+# demonstration with the command-line tool instead.
 run: build
-	./$(BUILD_DIR)/cli/courtmere-cli exhibition
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY$$QT_QPA_PLATFORM" ]; then \
+	  ./$(BUILD_DIR)/app/courtmere; \
+	else \
+	  echo "No display (DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are unset): playing a headless exhibition game instead."; \
+	  ./$(BUILD_DIR)/cli/courtmere-cli exhibition; \
+	fi
 
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j$(JOBS)

@@ -40,6 +40,8 @@ void RequireConference(Session& session, const std::string& conference);
 void AddInitCommand(CLI::App& app, CliContext& context);
 void AddExhibitionCommand(CLI::App& app, CliContext& context);
 void AddBenchCommand(CLI::App& app, CliContext& context);
+void AddSaveCommand(CLI::App& app, CliContext& context);
+void AddLoadCommand(CLI::App& app, CliContext& context);
 void AddNewCommand(CLI::App& app, CliContext& context);
 void AddStartSeasonCommand(CLI::App& app, CliContext& context);
 void AddStandingsCommand(CLI::App& app, CliContext& context);

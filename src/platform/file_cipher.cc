@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace courtmere {
@@ -54,13 +55,37 @@ bool StartsWith(const std::vector<unsigned char>& bytes, std::string_view prefix
          std::memcmp(bytes.data(), prefix.data(), prefix.size()) == 0;
 }
 
+// The last key derived, with what it was derived from. Argon2id is slow on
+// purpose (a good part of a second), and a load deciphers the same save twice:
+// once to check it, once to load it.
+struct DerivedKey {
+  std::string passphrase;
+  std::array<unsigned char, kSaltBytes> salt{};
+  Key key{};
+  bool valid = false;
+};
+
+DerivedKey& LastKey() {
+  static DerivedKey last;
+  return last;
+}
+
 std::optional<Key> DeriveKey(std::string_view passphrase, const unsigned char* salt) {
+  DerivedKey& last = LastKey();
+  if (last.valid && last.passphrase == passphrase &&
+      std::memcmp(last.salt.data(), salt, kSaltBytes) == 0) {
+    return last.key;
+  }
   Key key;
   if (crypto_pwhash(key.data(), key.size(), passphrase.data(), passphrase.size(), salt,
                     crypto_pwhash_OPSLIMIT_INTERACTIVE, crypto_pwhash_MEMLIMIT_INTERACTIVE,
                     crypto_pwhash_ALG_ARGON2ID13) != 0) {
     return std::nullopt;
   }
+  last.passphrase = passphrase;
+  std::memcpy(last.salt.data(), salt, kSaltBytes);
+  last.key = key;
+  last.valid = true;
   return key;
 }
 

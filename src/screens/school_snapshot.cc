@@ -24,18 +24,6 @@ SchoolSnapshot Snapshot(Store& store, const std::string& sql, const std::string&
 
 }  // namespace
 
-std::string FormatThousands(int64_t n) {
-  const bool negative = n < 0;
-  std::string digits = std::to_string(negative ? -n : n);
-  if (digits.size() < 4) digits.insert(0, 4 - digits.size(), '0');
-  std::string out;
-  for (size_t i = 0; i < digits.size(); ++i) {
-    if (i > 0 && (digits.size() - i) % 3 == 0) out += ',';
-    out += digits[i];
-  }
-  return negative ? "-" + out : out;
-}
-
 SchoolSnapshot LowLeagueSnapshot(Store& store, const std::string& school) {
   return Snapshot(store,
                   "SELECT Location, State, Population, ArenaCapacity, Colors, Prestige "

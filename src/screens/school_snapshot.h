@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "screens/display_format.h"
+
 namespace courtmere {
 
 class Store;
@@ -20,10 +22,6 @@ struct SchoolSnapshot {
   std::string Prestige;      // the band's label
   std::string Expectations;  // the band's expectation text
 };
-
-// The number format "0,000": digits in groups of three, at least four of
-// them ("0,950" for 950).
-std::string FormatThousands(int64_t n);
 
 // A low-conference school from the seed table, by its seed Prestige, and a
 // school of the dynasty, by its InitialPrestige. Empty fields when there is

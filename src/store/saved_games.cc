@@ -71,6 +71,11 @@ bool HasSaveEnding(const std::filesystem::path& path) {
   return ending == ".CMR";
 }
 
+std::filesystem::path WithSaveEnding(std::filesystem::path path) {
+  if (!HasSaveEnding(path)) path += ".CMR";
+  return path;
+}
+
 std::optional<std::filesystem::path> ChooseGameToLoad(Session& session) {
   std::optional<std::filesystem::path> path =
       session.ui.OpenFile("Open", session.folder.Path(kSaveFolder), kLoadFilter);
@@ -81,8 +86,8 @@ std::optional<std::filesystem::path> ChooseGameToLoad(Session& session) {
 std::optional<std::filesystem::path> ChooseSaveName(Session& session) {
   const std::filesystem::path folder = session.folder.EnsureFolder(kSaveFolder);
   std::optional<std::filesystem::path> path = session.ui.SaveFile("Save", folder, kSaveFilter);
-  if (path && !HasSaveEnding(*path)) *path += ".CMR";
-  return path;
+  if (!path) return std::nullopt;
+  return WithSaveEnding(std::move(*path));
 }
 
 int CheckSaveFile(Session& session, const std::filesystem::path& path) {
@@ -115,8 +120,8 @@ LoadOutcome LoadGameFile(Session& session, const std::filesystem::path& path,
   const bool loaded = CheckSaveFile(session, path) == 1 && LoadSave(session, path);
   session.ui.HideProgress();
   if (!loaded) return LoadOutcome::kRefused;
-  LoadSeasonStats(session);
   UpgradeStore(session, gradeAllPlayers);
+  LoadSeasonStats(session);
   MarkSaved(session);
   return LoadOutcome::kLoaded;
 }

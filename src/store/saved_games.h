@@ -35,6 +35,9 @@ inline constexpr std::string_view kSaveFilter = "All Files (*.CMR)|*.CMR";
 // Whether the name ends in ".CMR", in any case.
 bool HasSaveEnding(const std::filesystem::path& path);
 
+// The name with ".CMR" added unless it ends so already.
+std::filesystem::path WithSaveEnding(std::filesystem::path path);
+
 // File > Load's dialog, titled "Open", in "\SaveGame\". Nothing when the user
 // cancels or picks a name without the ".CMR" ending (which ends the flow
 // without a word).
@@ -58,8 +61,8 @@ bool LoadSave(Session& session, const std::filesystem::path& path);
 enum class LoadOutcome { kLoaded, kIgnored, kRefused };
 
 // File > Load after the dialog: ignores a name without the ".CMR" ending,
-// checks the file, loads it under "Loading Game", reads the season's
-// statistics and brings the store up to date (UpgradeStore).
+// checks the file, loads it under "Loading Game", brings the store up to
+// date (UpgradeStore) and reads the season's statistics.
 LoadOutcome LoadGameFile(Session& session, const std::filesystem::path& path,
                          const PlayerGrader& gradeAllPlayers);
 

@@ -1,0 +1,99 @@
+// frmMDI: the main window. It carries the menu tree, the title and the inbox,
+// holds every open screen, and brings its menus in line with the store
+// through the menu gate after every flow.
+//
+// Adding a screen behind a menu entry takes one line in RegisterCommands():
+// an entry with a command is open whenever the gate opens it; an entry without
+// one stays closed.
+#pragma once
+
+#include <QMainWindow>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "app/screen.h"
+#include "store/menu_gate.h"
+
+class QAction;
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace courtmere::app {
+
+class InboxDock;
+class IntroScreen;
+
+class MainWindow : public QMainWindow, public ScreenHost {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Session& session, QWidget* parent = nullptr);
+
+  // An entry's action, a menu's included; null for a name not in the tree.
+  QAction* Entry(std::string_view name) const;
+  bool HasCommand(std::string_view name) const;
+  // Runs an entry's command as a click on it would (the intro's labels do).
+  void RunCommand(std::string_view name);
+
+  // The gate worked out from the store and applied: menus, title, intro and
+  // inbox. Ends the program when the store has no Config row.
+  void RunGate();
+  // UnloadScreens: closes every screen, before a load or a save.
+  void CloseScreens();
+  QList<Screen*> Screens() const;
+  // The intro screen while it is shown, else null.
+  IntroScreen* Intro() const;
+  InboxDock* Inbox() const { return inbox_; }
+
+  // File > Load and File > Save; SaveGame answers whether a save was written.
+  void LoadGame();
+  bool SaveGame();
+
+  // ScreenHost
+  void OpenPlayerCard(int playerId) override;
+  void OpenBoxScore(const std::filesystem::path& file) override;
+  void OpenTextFile(const std::filesystem::path& file) override;
+  void RunFlow(const std::function<void()>& flow) override;
+  void StoreChanged() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void RegisterCommands();
+  void On(const char* entry, std::function<void()> command);
+  void ApplyGate(const MenuGateState& state);
+  void UpdateEntries();
+  void ShowIntro(bool shown);
+  void CenterIntro();
+  // Shows a screen in a window of its own, or brings forward the open screen
+  // with the same key (and drops the new one).
+  void Show(Screen* screen);
+  void Place(QMdiSubWindow* window, QSize wanted);
+  template <class T, class... Args>
+  void Show(Args&&... args) {
+    Show(new T(session_, *this, std::forward<Args>(args)...));
+  }
+  void ShowOptions();
+  void ShowAbout();
+  void EndRun();
+
+  Session& session_;
+  QMdiArea* area_;
+  InboxDock* inbox_;
+  QMdiSubWindow* introWindow_ = nullptr;
+  IntroScreen* intro_ = nullptr;
+  std::map<std::string, QAction*, std::less<>> entries_;
+  std::set<std::string, std::less<>> menus_;
+  std::map<std::string, std::function<void()>, std::less<>> commands_;
+  MenuGateState gate_;
+  bool busy_ = false;
+};
+
+}  // namespace courtmere::app

@@ -1,0 +1,23 @@
+#include "app/screen.h"
+
+#include <QMdiSubWindow>
+
+namespace courtmere::app {
+
+Screen::Screen(Session& session, ScreenHost& host, QWidget* parent)
+    : QWidget(parent), session_(session), host_(host) {}
+
+void Screen::CloseWindow() {
+  // The window is deleted once the click that asked for it is over.
+  if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) window->close();
+}
+
+QString ToQString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string ToStdString(const QString& text) {
+  return text.toStdString();
+}
+
+}  // namespace courtmere::app

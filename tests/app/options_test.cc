@@ -1,0 +1,65 @@
+// The options screen: it shows the session's values and writes what the user
+// submits to the session and the store.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QtTest>
+#include <memory>
+
+#include "app/options_dialog.h"
+#include "app_dynasty.h"
+#include "store/config.h"
+#include "store/menu_gate.h"
+
+namespace courtmere::app {
+
+using testing::AppDynasty;
+
+class OptionsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { dynasty_ = std::make_unique<AppDynasty>(); }
+  void cleanup() { dynasty_.reset(); }
+
+  void whatIsSubmittedComesBack() {
+    {
+      OptionsDialog dialog(dynasty_->session());
+      QVERIFY(!dialog.findChild<QCheckBox*>("chkPBP")->isChecked());
+      QCOMPARE(dialog.findChild<QComboBox*>("cmbSpeed")->currentText(), QString("5"));
+      QCOMPARE(dialog.findChild<QComboBox*>("cmbSpeed")->count(), 10);
+      dialog.findChild<QCheckBox*>("chkPBP")->setChecked(true);
+      dialog.findChild<QCheckBox*>("chkSave")->setChecked(true);
+      dialog.findChild<QCheckBox*>("chkBox")->setChecked(true);
+      dialog.findChild<QComboBox*>("cmbSpeed")->setCurrentText("8");
+      dialog.Submit();
+    }
+    QCOMPARE(dynasty_->ui().Messages().back(), std::string("Your Settings have been updated!"));
+    const Config stored = LoadConfig(dynasty_->store());
+    QCOMPARE(stored.PlayByPlay, 1);
+    QCOMPARE(stored.Autosave, 1);
+    QCOMPARE(stored.NumPlayers, 1);
+    QCOMPARE(stored.SimSpeed, 8);
+    QCOMPARE(dynasty_->session().config.SimSpeed, 8);
+
+    OptionsDialog again(dynasty_->session());
+    QVERIFY(again.findChild<QCheckBox*>("chkPBP")->isChecked());
+    QVERIFY(again.findChild<QCheckBox*>("chkSave")->isChecked());
+    QVERIFY(again.findChild<QCheckBox*>("chkBox")->isChecked());
+    QCOMPARE(again.findChild<QComboBox*>("cmbSpeed")->currentText(), QString("8"));
+  }
+
+  void anOldSavesBoxScoreValueShowsUnchecked() {
+    dynasty_->store().Exec("UPDATE Config SET NumPlayers = 5 WHERE IdConfig = 0");
+    MenuGate(dynasty_->session());
+    OptionsDialog dialog(dynasty_->session());
+    QVERIFY(!dialog.findChild<QCheckBox*>("chkBox")->isChecked());
+  }
+
+ private:
+  std::unique_ptr<AppDynasty> dynasty_;
+};
+
+}  // namespace courtmere::app
+
+QTEST_MAIN(courtmere::app::OptionsTest)
+#include "options_test.moc"

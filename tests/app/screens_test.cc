@@ -1,0 +1,256 @@
+// The screens over a small dynasty: what they show (names with apostrophes
+// and accents intact), what a click on them opens, and the roster rules they
+// call.
+#include <QAction>
+#include <QComboBox>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <memory>
+
+#include "app/box_score_screen.h"
+#include "app/game_log_screen.h"
+#include "app/grid_model.h"
+#include "app/inbox_dock.h"
+#include "app/intro_screen.h"
+#include "app/main_window.h"
+#include "app/manage_roster_screen.h"
+#include "app/player_card_screen.h"
+#include "app/roster_screen.h"
+#include "app/team_info_screen.h"
+#include "app/team_stats_screen.h"
+#include "app/text_viewer.h"
+#include "app_dynasty.h"
+#include "screenshots.h"
+
+namespace courtmere::app {
+
+using testing::AppDynasty;
+using testing::Screenshot;
+
+namespace {
+
+// The first open screen of a class.
+template <class T>
+T* Find(MainWindow& window) {
+  for (Screen* screen : window.Screens()) {
+    if (auto* found = qobject_cast<T*>(screen)) return found;
+  }
+  return nullptr;
+}
+
+QStringList Column(GridView* grid, int column) {
+  QStringList cells;
+  for (int row = 0; row < grid->Model()->rowCount(); ++row) {
+    cells << grid->Model()->Cell(row, column).text;
+  }
+  return cells;
+}
+
+QString Title(Screen* screen) {
+  return qobject_cast<QMdiSubWindow*>(screen->parentWidget())->windowTitle();
+}
+
+}  // namespace
+
+class ScreensTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    dynasty_ = std::make_unique<AppDynasty>();
+    window_ = std::make_unique<MainWindow>(dynasty_->session());
+    window_->show();
+  }
+  void cleanup() {
+    dynasty_->session().quitting = true;
+    window_.reset();
+    dynasty_.reset();
+  }
+
+  void theIntroOffersWhatExists() {
+    IntroScreen* intro = window_->Intro();
+    QVERIFY(intro);
+    Screenshot(window_.get(), "intro");
+    QVERIFY(!intro->findChild<QPushButton*>("lblNewSeason")->isEnabled());
+    for (const char* label : {"lblLoad", "lblOptions", "lblHelp", "lblExit"}) {
+      QVERIFY2(intro->findChild<QPushButton*>(label)->isEnabled(), label);
+    }
+    QVERIFY(!window_->Entry("mnuFile")->isEnabled());
+    window_->RunGate();
+    QVERIFY(!window_->Intro());
+    QCOMPARE(window_->windowTitle(), QString("Courtmere (Contact Period)"));
+    QCOMPARE(window_->Inbox()->windowTitle(), QString("St. John's Email Inbox"));
+  }
+
+  void theInboxShowsTheWeeksMessages() {
+    dynasty_->session().inbox.Add("Assistant Coach", "Season Instructions",
+                                  "Welcome to St. John's.\nYour first week.");
+    dynasty_->session().inbox.Add("Trainer", "Injury Update", "All is well.");
+    window_->RunGate();
+    GridView* inbox = window_->Inbox()->Grid();
+    QCOMPARE(Column(inbox, 0), (QStringList{"Assistant Coach", "Trainer"}));
+    QCOMPARE(Column(inbox, 1), (QStringList{"Season Instructions", "Injury Update"}));
+    emit inbox->CellClicked(0, 1);
+    QCOMPARE(window_->Inbox()->findChild<QPlainTextEdit*>()->toPlainText(),
+             QString("Welcome to St. John's.\nYour first week."));
+    Screenshot(window_.get(), "main_window");
+  }
+
+  void teamInfoShowsTheSchool() {
+    window_->RunGate();
+    window_->Entry("mnuManagementInfo")->trigger();
+    auto* info = Find<TeamInfoScreen>(*window_);
+    QVERIFY(info);
+    const QStringList values = Column(info->Grid(), 1);
+    QVERIFY(values.contains("St. John's"));
+    QVERIFY(values.contains("2,270,976"));
+    QVERIFY(values.contains("Pat O'Neil"));
+    info->Schools()->setCurrentText(AppDynasty::kAccented);
+    QVERIFY(Column(info->Grid(), 1).contains(QString::fromUtf8(AppDynasty::kAccented)));
+    Screenshot(window_.get(), "team_info");
+  }
+
+  void theRosterKeepsARefusedChartOnScreen() {
+    window_->RunGate();
+    window_->Entry("mnuManagementRoster")->trigger();
+    auto* roster = Find<RosterScreen>(*window_);
+    QVERIFY(roster);
+    QCOMPARE(Title(roster), QString("St. John's Roster"));
+    QVERIFY(Column(roster->Grid(), 0).contains(QString::fromUtf8("José Núñez")));
+    Screenshot(window_.get(), "roster");
+
+    Store& store = dynasty_->store();
+    const DepthChart stored = LoadDepthChart(store, AppDynasty::kHuman);
+    QCOMPARE(roster->ChosenChart().ids, stored.ids);
+    // The point guard also starts at shooting guard.
+    QComboBox* sg = roster->ChartBox(1);
+    sg->setCurrentIndex(sg->findData(stored.ids[0]));
+    roster->SubmitChart();
+    QCOMPARE(QString::fromStdString(dynasty_->ui().Messages().back()),
+             QString("Your Depth Chart has the same player starting at two positions. Please "
+                     "correct this and re-submit."));
+    QCOMPARE(sg->currentData().toInt(), stored.ids[0]);
+    QCOMPARE(LoadDepthChart(store, AppDynasty::kHuman).ids, stored.ids);
+
+    // The point guards and the shooting guards trade places: a chart that passes.
+    for (int string = 0; string < 3; ++string) {
+      QComboBox* pg = roster->ChartBox(string * 5);
+      QComboBox* sgs = roster->ChartBox(string * 5 + 1);
+      pg->setCurrentIndex(pg->findData(stored.ids[string * 5 + 1]));
+      sgs->setCurrentIndex(sgs->findData(stored.ids[string * 5]));
+    }
+    roster->SubmitChart();
+    QCOMPARE(QString::fromStdString(dynasty_->ui().Messages().back()),
+             QString("Your Depth Chart is now Updated."));
+    const DepthChart now = LoadDepthChart(store, AppDynasty::kHuman);
+    QCOMPARE(now.ids[0], stored.ids[1]);
+    QCOMPARE(now.ids[1], stored.ids[0]);
+
+    roster->findChild<QComboBox*>("cmbPress")->setCurrentText("Full Court");
+    roster->SaveTactics();
+    QCOMPARE(LoadTactics(store, AppDynasty::kHuman).Press, std::string("Full Court"));
+  }
+
+  void manageRosterOpensItsChangesOnlyAfterTraining() {
+    window_->RunGate();
+    window_->Entry("mnuManageRoster")->trigger();
+    auto* manage = Find<ManageRosterScreen>(*window_);
+    QVERIFY(manage);
+    manage->Grid()->selectRow(0);
+    QVERIFY(!manage->findChild<QPushButton*>("cmdCut")->isEnabled());
+
+    dynasty_->SetCalendar("Post Training", 1);
+    window_->StoreChanged();
+    manage->Grid()->selectRow(0);
+    QVERIFY(manage->findChild<QPushButton*>("cmdCut")->isEnabled());
+    Screenshot(window_.get(), "manage_roster");
+    const int before = static_cast<int>(manage->Grid()->Model()->rowCount());
+    manage->Release();
+    QCOMPARE(manage->Grid()->Model()->rowCount(), before - 1);
+  }
+
+  void theGameLogOpensLogsAndBoxScores() {
+    const int played = dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
+    dynasty_->PlayGame("Clemson", AppDynasty::kHuman, 3, "Saturday", true);
+    dynasty_->ScheduleGame(AppDynasty::kAccented, AppDynasty::kHuman, 4, "Thursday");
+    QVERIFY(played > 0);
+    window_->RunGate();
+    window_->Entry("mnuSeasonViewGameLogs")->trigger();
+    auto* log = Find<GameLogScreen>(*window_);
+    QVERIFY(log);
+    GridView* grid = log->Grid();
+    QCOMPARE(Column(grid, 3),
+             (QStringList{"Duke", "Clemson", QString::fromUtf8(AppDynasty::kAccented)}));
+    QVERIFY(Column(grid, 5)[0] == "Win" || Column(grid, 5)[0] == "Loss");
+    QCOMPARE(Column(grid, 5)[2], QString(""));
+    Screenshot(window_.get(), "game_log");
+
+    emit grid->CellClicked(0, 1);
+    auto* text = Find<TextViewer>(*window_);
+    QVERIFY(text);
+    QVERIFY(text->Text().contains("Duke"));
+    Screenshot(window_.get(), "game_log_text");
+
+    grid->selectRow(0);
+    log->findChild<QPushButton*>("cmdBoxScore")->click();
+    auto* box = Find<BoxScoreScreen>(*window_);
+    QVERIFY(box);
+    QCOMPARE(Title(box), QString("Duke at St. John's"));
+    QCOMPARE(box->HomeGrid()->Model()->Cell(13, 0).text, QString("St. John's"));
+    Screenshot(window_.get(), "box_score");
+
+    // A name opens his card; the team's row and an empty row do nothing.
+    const QString name = box->HomeGrid()->Model()->Cell(0, 0).text;
+    emit box->HomeGrid()->CellClicked(13, 0);
+    QVERIFY(!Find<PlayerCardScreen>(*window_));
+    emit box->HomeGrid()->CellClicked(0, 0);
+    auto* card = Find<PlayerCardScreen>(*window_);
+    QVERIFY(card);
+    QVERIFY(dynasty_->ui().Messages().empty());
+    Screenshot(window_.get(), "player_card");
+
+    // Close shuts the game log's own window, nothing more.
+    log->findChild<QPushButton*>("cmdClose")->click();
+    QCoreApplication::processEvents();
+    QVERIFY(!Find<GameLogScreen>(*window_));
+    QVERIFY(window_->isVisible());
+    QVERIFY(dynasty_->ui().Questions().empty());
+  }
+
+  void anUnknownNameOnABoxScoreSaysSo() {
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
+    const std::string box = *dynasty_->store().ScalarText("SELECT BoxScore FROM NonConfSchedule");
+    dynasty_->store().Exec("UPDATE Player SET AbbrName = 'Somebody Else' WHERE Team = 'Duke'");
+    window_->OpenBoxScore(box);
+    auto* screen = Find<BoxScoreScreen>(*window_);
+    emit screen->AwayGrid()->CellClicked(0, 0);
+    QCOMPARE(QString::fromStdString(dynasty_->ui().Messages().back()),
+             QString("Error displaying the player. The code is 1"));
+    QVERIFY(!Find<PlayerCardScreen>(*window_));
+  }
+
+  void teamStatsShowTheSeasonSoFar() {
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
+    window_->RunGate();
+    window_->Entry("mnuManagementTeamStats")->trigger();
+    auto* stats = Find<TeamStatsScreen>(*window_);
+    QVERIFY(stats);
+    const QStringList labels = Column(stats->Totals(), 0);
+    QCOMPARE(labels.first(), QString("Record"));
+    int games = 0;
+    for (const QString& g : Column(stats->Players(), 3)) games += g.toInt();
+    QVERIFY(games >= 5);
+    Screenshot(window_.get(), "team_stats");
+  }
+
+ private:
+  std::unique_ptr<AppDynasty> dynasty_;
+  std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace courtmere::app
+
+QTEST_MAIN(courtmere::app::ScreensTest)
+#include "screens_test.moc"
