@@ -48,5 +48,6 @@ void AddStandingsCommand(CLI::App& app, CliContext& context);
 void AddTeamsCommand(CLI::App& app, CliContext& context);
 void AddScheduleCommand(CLI::App& app, CliContext& context);
 void AddNonConfCommand(CLI::App& app, CliContext& context);
+void AddBracketCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli
