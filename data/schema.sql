@@ -1033,6 +1033,17 @@ CREATE TABLE Messages (
   Message TEXT
 ) STRICT;
 
+-- The user's inbox, every letter of the running season. Week is the week
+-- whose list the letter joined, Year the dynasty's year when it was sent.
+CREATE TABLE InboxMessage (
+  Id INTEGER PRIMARY KEY,
+  Week INTEGER DEFAULT 0,
+  Year INTEGER DEFAULT 0,
+  Sender TEXT,
+  Subject TEXT,
+  Text TEXT
+) STRICT;
+
 CREATE TABLE ConfTourney (
   Id INTEGER PRIMARY KEY,
   SchoolName TEXT,

@@ -55,12 +55,10 @@ void NameFiles(Game& game, const GameRequest& request, std::string& boxFile,
   }
   const ProgramFolder& folder = game.session->folder;
   folder.EnsureFolder("\\log\\");
-  const std::string suffix =
-      std::to_string(request.GameNo) + "-" + std::to_string(request.BatchIndex) + ".txt";
-  game.BoxFileName = folder.Path("\\log\\Box" + suffix);
+  game.BoxFileName = GameFilePath(folder, "Box", request.GameNo, request.BatchIndex);
   boxFile = game.BoxFileName.string();
   if (wantLog) {
-    game.GameLogFileName = folder.Path("\\log\\GameLog" + suffix);
+    game.GameLogFileName = GameFilePath(folder, "GameLog", request.GameNo, request.BatchIndex);
     game.WriteLog = true;
     gameLogFile = game.GameLogFileName.string();
   } else {
@@ -168,6 +166,12 @@ int Play(Game& game, DayResults& day, const GameRequest& request, std::string& b
 }
 
 }  // namespace
+
+std::filesystem::path GameFilePath(const ProgramFolder& folder, std::string_view kind, int gameNo,
+                                   int batchIndex) {
+  return folder.Path("\\log\\" + std::string(kind) + std::to_string(gameNo) + "-" +
+                     std::to_string(batchIndex) + ".txt");
+}
 
 int RunEngine(Game& game, DayResults& day, const GameRequest& request, std::string& boxFile,
               std::string& gameLogFile) {

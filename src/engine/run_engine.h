@@ -2,7 +2,9 @@
 // leaves its statistics lines in the day's result tables.
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "engine/game_model.h"
 
@@ -20,6 +22,13 @@ struct GameRequest {
   // False: write no file at all, not even the box score (benchmarks).
   bool WriteFiles = true;
 };
+
+class ProgramFolder;
+
+// The file of a game below the program folder:
+// "\log\<kind><gameNo>-<batchIndex>.txt", kind "Box" or "GameLog".
+std::filesystem::path GameFilePath(const ProgramFolder& folder, std::string_view kind, int gameNo,
+                                   int batchIndex);
 
 // Plays one game on `game` (which it resets first). `boxFile` receives the
 // box score's full name; `gameLogFile` is "none" for no play-by-play log,

@@ -97,7 +97,7 @@ void AnswerTournamentInvitation(Session& session) {
 }
 
 void FinalOffseasonTasks(Session& session) {
-  session.inbox.Add("Assistant", "Final Offseason Tasks", kTasks);
+  AddInboxMessage(session, "Assistant", "Final Offseason Tasks", kTasks);
   AnswerTournamentInvitation(session);
   session.ui.HideProgress();
 }

@@ -138,7 +138,7 @@ void SeasonLetter(Session& session) {
   const std::string text = SeasonLetterText(store, HumanSchool(store));
   const int week = LoadConfig(store).CurrWeek;
   store.Exec("INSERT INTO Messages (Type, Week, Message) VALUES (?, ?, ?)", "Team", week, text);
-  session.inbox.Add("Assistant Coach", "Season Instructions", text);
+  AddInboxMessage(session, "Assistant Coach", "Season Instructions", text);
 }
 
 }  // namespace courtmere

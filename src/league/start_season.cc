@@ -70,8 +70,7 @@ void OpenSeason(Session& session, const std::string& school) {
   SetCPURoster(session);
   for (const char* folder : {"\\SaveGame", "\\log", "\\reports"})
     session.folder.EnsureFolder(folder);
-  session.inbox = Inbox{};
-  session.inbox.Week = LoadConfig(store).CurrWeek;
+  ClearInbox(session, LoadConfig(store).CurrWeek);
   SeasonLetter(session);
 }
 

@@ -110,15 +110,6 @@ std::array<int64_t, 6> TopByPosition(Store& store, const std::string& school) {
   return top;
 }
 
-int Scholarships(Store& store, const std::string& school) {
-  const int64_t leaving =
-      store.ScalarInt("SELECT count(Id) FROM Player WHERE Team = ? AND NBAFlag = 1", school)
-          .value_or(0);
-  const int64_t players =
-      store.ScalarInt("SELECT count(Id) FROM Player WHERE Team = ?", school).value_or(0);
-  return static_cast<int>(std::min<int64_t>(leaving + kRosterSize - players, kMostScholarships));
-}
-
 void RateTeam(Session& session, const TeamRow& t, int y) {
   Store& store = session.Db();
   Rng& rng = session.rng;
@@ -138,6 +129,15 @@ void RateTeam(Session& session, const TeamRow& t, int y) {
 }
 
 }  // namespace
+
+int Scholarships(Store& store, const std::string& school) {
+  const int64_t leaving =
+      store.ScalarInt("SELECT count(Id) FROM Player WHERE Team = ? AND NBAFlag = 1", school)
+          .value_or(0);
+  const int64_t players =
+      store.ScalarInt("SELECT count(Id) FROM Player WHERE Team = ?", school).value_or(0);
+  return static_cast<int>(std::min<int64_t>(leaving + kRosterSize - players, kMostScholarships));
+}
 
 double WinFractionCorrection(Rng& rng, double q, double f) {
   for (const QBand& band : kBands) {

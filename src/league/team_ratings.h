@@ -9,13 +9,20 @@
 // the professional league, and that a good or a poor season nudges.
 #pragma once
 
+#include <string>
+
 namespace courtmere {
 
 class Rng;
+class Store;
 struct Session;
 
 // The nudge a season's win fraction f (0 to 1) gives to Q.
 double WinFractionCorrection(Rng& rng, double q, double f);
+
+// The scholarships a school may offer: its players leaving for the draft,
+// plus a full roster's 13, less its players, at most 5.
+int Scholarships(Store& store, const std::string& school);
 
 // TeamRating, TopPG to TopC, Prestige, TVGames and Scholarships of every
 // Team row.

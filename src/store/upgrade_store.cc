@@ -153,6 +153,10 @@ void UpgradeStore(Session& session) {
 void UpgradeStore(Session& session, const PlayerGrader& gradeAllPlayers) {
   Store& store = session.Db();
   FixSeedRows(store);
+  // Saves made before the inbox was kept in the store.
+  if (!store.TableExists("InboxMessage")) {
+    store.ExecScript(SchemaStatement("CREATE TABLE InboxMessage ("));
+  }
   if (!HasOldLayout(store)) return;
   if (!gradeAllPlayers) {
     throw StoreError("A store of the old layout needs its players graded anew");
