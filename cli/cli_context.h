@@ -57,5 +57,6 @@ void AddBenchSeasonCommand(CLI::App& app, CliContext& context);
 void AddPollCommand(CLI::App& app, CliContext& context);
 void AddCriCommand(CLI::App& app, CliContext& context);
 void AddAwardsCommand(CLI::App& app, CliContext& context);
+void AddBracketCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

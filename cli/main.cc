@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
   courtmere::cli::AddTeamsCommand(app, context);
   courtmere::cli::AddScheduleCommand(app, context);
   courtmere::cli::AddNonConfCommand(app, context);
+  courtmere::cli::AddBracketCommand(app, context);
   courtmere::cli::AddSaveCommand(app, context);
   courtmere::cli::AddLoadCommand(app, context);
   courtmere::cli::AddSimCommand(app, context);

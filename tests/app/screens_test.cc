@@ -85,9 +85,9 @@ class ScreensTest : public QObject {
   }
 
   void theInboxShowsTheWeeksMessages() {
-    dynasty_->session().inbox.Add("Assistant Coach", "Season Instructions",
-                                  "Welcome to St. John's.\nYour first week.");
-    dynasty_->session().inbox.Add("Trainer", "Injury Update", "All is well.");
+    AddInboxMessage(dynasty_->session(), "Assistant Coach", "Season Instructions",
+                    "Welcome to St. John's.\nYour first week.");
+    AddInboxMessage(dynasty_->session(), "Trainer", "Injury Update", "All is well.");
     window_->RunGate();
     GridView* inbox = window_->Inbox()->Grid();
     QCOMPARE(Column(inbox, 0), (QStringList{"Assistant Coach", "Trainer"}));
