@@ -7,6 +7,8 @@
 
 #include "cpu/computer_roster.h"
 #include "engine/engine_error.h"
+#include "league/conf_tourney.h"
+#include "league/national_tourneys.h"
 #include "schedule/preseason_advance.h"
 #include "season/calendar.h"
 #include "season/day_guards.h"
@@ -74,7 +76,8 @@ void PlayRestOfDay(SeasonRun& run, int week, const std::string& day) {
   }
 }
 
-// Steps 4 to 8: false when the user's list could not be played.
+// Steps 4 to 8: the games, then the tournaments' next rounds; false when
+// the user's list could not be played.
 bool PlayGames(SeasonRun& run, bool automatic, int week, const std::string& day) {
   Session& session = run.session;
   if (!automatic && !PlayListedGames(run)) return false;
@@ -86,6 +89,12 @@ bool PlayGames(SeasonRun& run, bool automatic, int week, const std::string& day)
     }
   }
   if (week < 17) PlayRestOfDay(run, week, day);
+  if (week == 16) {
+    for (const std::string& conference : LeagueConferences(session.Db())) {
+      AdvanceConfTourney(session, conference, week, day);
+    }
+  }
+  if (week >= 17) RecordPostseasonDay(session, week, day);
   return true;
 }
 

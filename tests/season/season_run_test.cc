@@ -1,14 +1,17 @@
 // A whole season played press by press from a freshly started dynasty: every
-// regular-season game has its score, no team plays twice on a day, the
-// records in TeamStats are the schedule's, and the season ends in "Season
-// Over" on Monday of week 21.
+// game of the schedule and of the tournaments has its score, no team plays
+// twice on a day, the records in TeamStats are the schedule's, the rankings,
+// awards and champions are there, and the season ends in "Season Over" on
+// Monday of week 21.
 #include <gtest/gtest.h>
 
 #include <map>
 #include <set>
 #include <tuple>
 
+#include "league/national_tourneys.h"
 #include "season/schedule_tables.h"
+#include "season/seeded_name.h"
 #include "season_fixture.h"
 
 namespace courtmere::testing {
@@ -31,7 +34,9 @@ std::vector<Result> AllGames(Store& store) {
                               "AwayScore FROM " +
                               table);
          r.Next();) {
-      games.push_back({r.Int(0), r.Text(1), r.Text(2), r.Text(3), r.Text(4), r.Int(5), r.Int(6)});
+      // National-tournament rows carry the seed before the school.
+      games.push_back({r.Int(0), r.Text(1), SplitSeed(r.Text(2)).school,
+                       SplitSeed(r.Text(3)).school, r.Text(4), r.Int(5), r.Int(6)});
     }
   }
   return games;
@@ -43,15 +48,13 @@ std::set<std::string> FirstDivision(Store& store) {
   return schools;
 }
 
-void ExpectEveryRegularGamePlayedOnce(Store& store) {
+void ExpectEveryGamePlayedOnce(Store& store) {
   const std::vector<Result> games = AllGames(store);
   ASSERT_GT(games.size(), 300u);
   std::map<std::tuple<int, std::string, std::string>, int> appearances;
   for (const Result& g : games) {
-    if (g.week <= 15) {
-      EXPECT_NE(g.homeScore, 0) << g.home << " v " << g.away << " week " << g.week;
-      EXPECT_NE(g.homeScore, g.awayScore) << g.home << " v " << g.away;
-    }
+    EXPECT_NE(g.homeScore, 0) << g.home << " v " << g.away << " week " << g.week;
+    EXPECT_NE(g.homeScore, g.awayScore) << g.home << " v " << g.away;
     // The conference challenge of Sunday of week 1, drawn at the start of
     // the season, may meet a preseason tournament's final on that day; the
     // schedule allows it, so the check counts the challenge games apart.
@@ -105,8 +108,19 @@ TEST_F(WholeSeason, PlayedPressByPressToSeasonOver) {
   SimTo(21, "Monday");
   EXPECT_EQ(config().Stage, "Season Over");
   EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");
-  ExpectEveryRegularGamePlayedOnce(store());
+  ExpectEveryGamePlayedOnce(store());
   ExpectRecordsAreTheScheduleResults(store());
+  // The week's ends ranked the teams and named a player of each week but
+  // the fifth (no games) and the sixteenth (its Sunday selects the
+  // tournaments instead); the tournaments crowned their champions.
+  EXPECT_EQ(
+      Count("SELECT count(DISTINCT SchoolName) FROM Ranking WHERE TeamRanking BETWEEN 1 AND 25"),
+      25);
+  EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week'"), 14);
+  EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week' AND WeekNo = 5"), 0);
+  EXPECT_TRUE(NctChampion(store()).has_value());
+  EXPECT_EQ(Count("SELECT count(*) FROM Team WHERE Winner = 1"),
+            Count("SELECT count(*) FROM League WHERE SchedType <> ''"));
 }
 
 }  // namespace
