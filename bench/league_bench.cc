@@ -3,11 +3,15 @@
 // the background field, ratings and schedules, in one transaction), and
 // Start Season from there to Thursday of week 1 (recruit pool, walk-ons,
 // challenge games, ranks, computer rosters, letter, and the compaction).
+// Then a week's end of week 8: the rating index over every scheduled game,
+// and the poll that reads it.
 #include <benchmark/benchmark.h>
 
 #include <memory>
 
 #include "bench_program.h"
+#include "league/cri.h"
+#include "league/poll.h"
 #include "league/start_season.h"
 #include "screens/new_dynasty_run.h"
 
@@ -43,6 +47,24 @@ void BM_StartSeason(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_StartSeason)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The rating index of week 8 over the new dynasty's whole schedule.
+void BM_UpdateCRI(benchmark::State& state) {
+  BenchProgram program("cri", NewDynastyStore(), 1);
+  program.session().config.CurrWeek = 8;
+  for (auto _ : state) UpdateCRI(program.session());
+}
+BENCHMARK(BM_UpdateCRI)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The poll of week 8, after that week's index: every school scored, the
+// background records moved, Ranking rewritten.
+void BM_UpdatePoll(benchmark::State& state) {
+  BenchProgram program("poll", NewDynastyStore(), 1);
+  program.session().config.CurrWeek = 8;
+  UpdateCRI(program.session());
+  for (auto _ : state) UpdatePoll(program.session());
+}
+BENCHMARK(BM_UpdatePoll)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace courtmere

@@ -58,7 +58,8 @@ bool IsFreshman(Store& store, int id) {
          "Freshman";
 }
 
-// The sorted list of the candidates' season award scores. Design decision:
+// The sorted list of the candidates' season award scores. The score lives
+// only in this list, worked out anew for each pick. Design decision:
 // a man who has not played a game this season is no candidate, so a
 // conference with fewer players than places names fewer.
 std::vector<LeaderRow> AwardList(Session& session, const Candidates& c) {
