@@ -13,17 +13,12 @@
 namespace courtmere {
 namespace {
 
+using testing::ColumnSet;
 using testing::kUserSchool;
 using testing::PostseasonFixture;
 
-std::set<std::string> Column(Store& store, const std::string& sql) {
-  std::set<std::string> values;
-  for (Rows rows = store.Query(sql); rows.Next();) values.insert(rows.Text(0));
-  return values;
-}
-
 std::set<std::string> NctField(Store& store) {
-  return Column(store, "SELECT SchoolName FROM NCTTourney WHERE Seed <= 16");
+  return ColumnSet(store, "SELECT SchoolName FROM NCTTourney WHERE Seed <= 16");
 }
 
 double Score(Store& store, const std::string& school) {
@@ -54,10 +49,10 @@ TEST(NctSelection, TheBubbleComesFromTheAtLargeOrderBeforeTheAutomaticBids) {
   EXPECT_GE(Score(s, h.Text(3)), Score(s, h.Text(4)));
   EXPECT_GE(Score(s, h.Text(4)), Score(s, h.Text(7)));
   // No automatic qualifier stands on the bubble.
-  const std::set<std::string> champions =
-      Column(s,
-             "SELECT SchoolName FROM Team WHERE Winner = 1 UNION SELECT SchoolName FROM ScrubTeam "
-             "WHERE Winner = 1");
+  const std::set<std::string> champions = ColumnSet(
+      s,
+      "SELECT SchoolName FROM Team WHERE Winner = 1 UNION SELECT SchoolName FROM ScrubTeam "
+      "WHERE Winner = 1");
   for (int i = 0; i < 8; ++i) EXPECT_FALSE(champions.count(h.Text(i)));
   // The ACT's bubble starts from the schools the NCT left.
   Rows a = s.Query("SELECT LastIn1, LastIn4, FirstOut1 FROM ACTHistory");
@@ -114,8 +109,8 @@ TEST(NctSelection, SitesAreDistinctCitiesOfTheirRegionsAndEachHalfPlaysAtItsOwn)
               .value();
       const char* seeds =
           second == 1 ? "(1, 4, 5, 8, 9, 12, 13, 16)" : "(2, 3, 6, 7, 10, 11, 14, 15)";
-      EXPECT_EQ(Column(s, "SELECT HostCity FROM NCTTourney WHERE Conference = '" +
-                              std::string(region) + "' AND Seed IN " + seeds),
+      EXPECT_EQ(ColumnSet(s, "SELECT HostCity FROM NCTTourney WHERE Conference = '" +
+                                 std::string(region) + "' AND Seed IN " + seeds),
                 std::set<std::string>{city});
     }
   }
@@ -199,9 +194,9 @@ TEST(NationalDays, TheFinalFourIsMarkedWhenItIsSetAndTheChampionClosesTheYear) {
   p.RunNationalTourneys({18, "Sunday"});
   Store& s = p.store();
   const std::set<std::string> finalFour =
-      Column(s,
-             "SELECT SchoolName FROM Team WHERE NCTFinalFour = 1 UNION SELECT SchoolName FROM "
-             "ScrubTeam WHERE NCTFinalFour = 1");
+      ColumnSet(s,
+                "SELECT SchoolName FROM Team WHERE NCTFinalFour = 1 UNION SELECT SchoolName FROM "
+                "ScrubTeam WHERE NCTFinalFour = 1");
   EXPECT_EQ(finalFour.size(), 4u);
   EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM " + p.UserTable() +
                         " WHERE Week = 19 AND GameDay = 'Saturday' AND GameType = 'FinalFour'")

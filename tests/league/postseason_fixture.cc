@@ -42,6 +42,12 @@ void WriteRankings(Session& session, std::vector<Rated> schools) {
 
 }  // namespace
 
+std::set<std::string> ColumnSet(Store& store, const std::string& sql) {
+  std::set<std::string> values;
+  for (Rows rows = store.Query(sql); rows.Next();) values.insert(rows.Text(0));
+  return values;
+}
+
 const std::vector<PostseasonDay>& NationalDays() {
   static const std::vector<PostseasonDay> days = {
       {17, "Tuesday"},  {17, "Wednesday"}, {17, "Thursday"}, {17, "Friday"},

@@ -10,6 +10,7 @@
 // test needs only results, given scores drawn from the same seed.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ struct PostseasonDay {
   int week = 0;
   std::string day;
 };
+
+// The first column of every row `sql` reads, as a set.
+std::set<std::string> ColumnSet(Store& store, const std::string& sql);
 
 // The days of weeks 17 to 20 in calendar order.
 const std::vector<PostseasonDay>& NationalDays();

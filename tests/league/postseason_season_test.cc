@@ -15,13 +15,8 @@
 namespace courtmere {
 namespace {
 
+using testing::ColumnSet;
 using testing::PostseasonFixture;
-
-std::set<std::string> Column(Store& store, const std::string& sql) {
-  std::set<std::string> values;
-  for (Rows rows = store.Query(sql); rows.Next();) values.insert(rows.Text(0));
-  return values;
-}
 
 struct GameRow {
   int week;
@@ -76,8 +71,8 @@ TEST_P(WholePostseason, EachConferenceTournamentCrownsOneTeamThatPlayedEveryRoun
       daysPlayed[g.away].insert(g.day);
     }
     const std::set<std::string> champions =
-        Column(store(), "SELECT SchoolName FROM Team WHERE Winner IN (1, 3) AND Conference = '" +
-                            league.conference + "'");
+        ColumnSet(store(), "SELECT SchoolName FROM Team WHERE Winner IN (1, 3) AND Conference = '" +
+                               league.conference + "'");
     ASSERT_EQ(champions.size(), 1u);
     const std::string& champion = *champions.begin();
     EXPECT_EQ(losses.count(champion), 0u);
@@ -93,23 +88,24 @@ TEST_P(WholePostseason, EachConferenceTournamentCrownsOneTeamThatPlayedEveryRoun
 
 TEST_P(WholePostseason, TheNctDrawsSixtyFourTeamsAndEveryAutomaticQualifier) {
   const std::set<std::string> nct =
-      Column(store(), "SELECT SchoolName FROM NCTTourney WHERE Seed <= 16");
+      ColumnSet(store(), "SELECT SchoolName FROM NCTTourney WHERE Seed <= 16");
   EXPECT_EQ(nct.size(), 64u);
   EXPECT_EQ(store().ScalarInt("SELECT count(*) FROM NCTTourney WHERE Seed <= 16").value(), 64);
   for (const char* region : {"East", "West", "Midwest", "South"}) {
-    EXPECT_EQ(Column(store(), std::string("SELECT Seed FROM NCTTourney WHERE Seed <= 16 AND "
-                                          "Conference = '") +
-                                  region + "'")
+    EXPECT_EQ(ColumnSet(store(), std::string("SELECT Seed FROM NCTTourney WHERE Seed <= 16 AND "
+                                             "Conference = '") +
+                                     region + "'")
                   .size(),
               16u)
         << region;
   }
   for (const char* sql : {"SELECT SchoolName FROM Team WHERE Winner IN (1, 3)",
                           "SELECT SchoolName FROM ScrubTeam WHERE Winner IN (1, 3)"}) {
-    for (const std::string& school : Column(store(), sql)) EXPECT_TRUE(nct.count(school)) << school;
+    for (const std::string& school : ColumnSet(store(), sql))
+      EXPECT_TRUE(nct.count(school)) << school;
   }
   const std::set<std::string> act =
-      Column(store(), "SELECT SchoolName FROM ACTTourney WHERE Seed BETWEEN 21 AND 28");
+      ColumnSet(store(), "SELECT SchoolName FROM ACTTourney WHERE Seed BETWEEN 21 AND 28");
   EXPECT_EQ(act.size(), 32u);
   for (const std::string& school : act) EXPECT_FALSE(nct.count(school)) << school;
 }
