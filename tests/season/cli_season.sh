@@ -78,6 +78,16 @@ run 0 --home "$work/a" sim --season
 expect "Week 20:"
 expect "now week 21, Monday"
 expect "stage Season Over"
+champion=$(sed -n 's/^NCT champion: //p' <<<"$out")
+[[ -n $champion ]] || fail "sim --season named no NCT champion:
+$out"
+run 0 --home "$work/a" bracket nct
+expect "Champion: $champion"
+run 0 --home "$work/a" bracket act
+expect "Champion: "
+run 0 --home "$work/a" bracket conf
+expect "Big East Conference Tournament"
+expect "Champion: "
 run 2 --home "$work/a" sim
 expect "the dynasty stands in Season Over"
 echo "cli_season passed"
