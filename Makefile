@@ -20,8 +20,8 @@ run: build
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY$$QT_QPA_PLATFORM" ]; then \
 	  ./$(BUILD_DIR)/app/courtmere; \
 	else \
-	  echo "No display (DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are unset): playing a headless exhibition game instead."; \
-	  ./$(BUILD_DIR)/cli/courtmere-cli exhibition; \
+	  echo "No display (DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are unset): playing a headless season instead."; \
+	  ./scripts/demo ./$(BUILD_DIR)/cli/courtmere-cli; \
 	fi
 
 test: build
