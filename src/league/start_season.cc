@@ -5,6 +5,7 @@
 #include "cpu/computer_roster.h"
 #include "league/clear_old_season.h"
 #include "league/head_coach.h"
+#include "league/poll.h"
 #include "league/schedule_strength.h"
 #include "league/season_letter.h"
 #include "league/status.h"
@@ -63,6 +64,7 @@ void OpenSeason(Session& session, const std::string& school) {
   store.Exec("INSERT INTO TeamRecruit (Team) VALUES (?)", school);
   ShowStatus(session, "Ranking Teams");
   UpdateScheduleStrength(session);
+  UpdatePoll(session);
   // The compaction of "Loading Players" needs the store closed: it runs
   // once this season's transaction has committed.
   ShowStatus(session, "Loading Players");

@@ -134,6 +134,20 @@ TEST_F(StartedSeason, FillsShortRostersWithSeniorWalkOns) {
             2);
 }
 
+TEST_F(StartedSeason, RanksEverySchoolInThePreseasonPoll) {
+  const int64_t schools = Count(store(), "SELECT count(*) FROM Team") +
+                          Count(store(), "SELECT count(*) FROM ScrubTeam");
+  EXPECT_EQ(Count(store(), "SELECT count(DISTINCT TeamRanking) FROM Ranking WHERE TeamRanking > 0"),
+            schools);
+  // Before any game, by prestige, rating and the schedule strength of the
+  // same step.
+  EXPECT_EQ(
+      Count(store(),
+            "SELECT count(*) FROM Ranking JOIN Team USING (SchoolName) WHERE "
+            "abs(TeamPoints - (Prestige + TeamRating / 7.0 + ScheduleStrength / 7.0)) > 1e-9"),
+      0);
+}
+
 TEST_F(StartedSeason, SetsTheComputersRostersAndWritesTheLetter) {
   EXPECT_EQ(Count(store(), "SELECT count(*) FROM Team WHERE PG1 = 0 AND Owner = 'Computer'"), 0);
   EXPECT_EQ(Count(store(), "SELECT count(*) FROM ScrubTeam WHERE PG1 = 0"), 0);
