@@ -24,18 +24,18 @@ void TellUser(Session& session) {
       "SELECT Seed, Conference, HostCity FROM NCTTourney WHERE SchoolName = ? AND Seed <= 16",
       school);
   if (nct.Next()) {
-    session.inbox.Add("Assistant", "Made the NCT!",
-                      fmt::format("It has been announced that we made the NCT! We will be the No "
-                                  "{} seed in the {} region. We better get travel plans ready "
-                                  "for {}.",
-                                  nct.Int(0), nct.Text(1), nct.Text(2)));
+    AddInboxMessage(session, "Assistant", "Made the NCT!",
+                    fmt::format("It has been announced that we made the NCT! We will be the No "
+                                "{} seed in the {} region. We better get travel plans ready "
+                                "for {}.",
+                                nct.Int(0), nct.Text(1), nct.Text(2)));
     return;
   }
   if (store.ScalarInt("SELECT count(*) FROM ACTTourney WHERE SchoolName = ?", school).value_or(0) >
       0) {
-    session.inbox.Add("Assistant", "Made the ACT.",
-                      "The bad news is we didn't make the NCT. The good news is we made the ACT. "
-                      "So, let's get ready for a run to be the 65th best team in the nation!");
+    AddInboxMessage(session, "Assistant", "Made the ACT.",
+                    "The bad news is we didn't make the NCT. The good news is we made the ACT. "
+                    "So, let's get ready for a run to be the 65th best team in the nation!");
   }
 }
 
