@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 #include <QSortFilterProxyModel>
 #include <QStringList>
 #include <QTableView>
@@ -19,6 +20,7 @@ struct GridCell {
   QString text;
   QVariant sortKey;     // the text itself when null
   bool number = false;  // right-aligned
+  QColor color;         // the text's colour; the view's own when invalid
 
   static GridCell Text(std::string_view text);
   static GridCell Number(double value, const std::string& text);
