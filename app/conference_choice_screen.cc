@@ -54,19 +54,24 @@ ConferenceChoiceScreen::ConferenceChoiceScreen(Session& session, ScreenHost& hos
   grid->addWidget(snapshot_, 1, 2);
   grid->addWidget(Heading("Your three conferences:", this), 2, 0);
   grid->addWidget(chosen_, 3, 0, 1, 2);
-  auto* buttons = new QVBoxLayout;
-  buttons->addWidget(AddButton("cmdAdd", "Add Conference", [this] { AddConference(); }));
-  buttons->addWidget(AddButton("cmdRemove", "Remove Conference", [this] { RemoveConference(); }));
+  auto* slotButtons = new QVBoxLayout;
+  slotButtons->addWidget(AddButton("cmdAdd", "Add Conference", [this] { AddConference(); }));
+  slotButtons->addWidget(
+      AddButton("cmdRemove", "Remove Conference", [this] { RemoveConference(); }));
+  slotButtons->addStretch();
+  grid->addLayout(slotButtons, 3, 2);
+  grid->setRowStretch(1, 1);
+  auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(AddButton("cmdContinue", "Continue", [this] { Continue(); }));
   buttons->addWidget(AddButton("cmdCancel", "Cancel", [this] { CloseWindow(); }));
-  grid->addLayout(buttons, 3, 2);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(title);
   layout->addLayout(grid);
-  chosen_->setMaximumHeight(chosen_->sizeHintForRow(0) * 3 + 60);
-  resize(900, 560);
+  layout->addLayout(buttons);
   ShowChosen();
+  chosen_->setFixedHeight(chosen_->sizeHintForRow(0) * 3 + 2 * chosen_->frameWidth() + 4);
+  resize(900, 560);
   if (conferences_->count() > 0) conferences_->setCurrentRow(0);
 }
 

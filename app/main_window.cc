@@ -34,6 +34,7 @@
 #include "people/grade_all_players.h"
 #include "season/season_session.h"
 #include "store/saved_games.h"
+#include "store/season_stats.h"
 #include "store/session.h"
 #include "store/store_files.h"
 
@@ -137,7 +138,7 @@ void MainWindow::RegisterCommands() {
   On("mnuManageRoster", [this] { Show<ManageRosterScreen>(); });
   On("mnuNonConfPre", [this] { Show<NonConfGamesScreen>(NonConfView::kPreConference); });
   On("mnuNonConfOther", [this] { Show<NonConfGamesScreen>(NonConfView::kOther); });
-  On("mnuOffSeasonStart", [this] { RunFlow([this] { StartSeason(session_); }); });
+  On("mnuOffSeasonStart", [this] { RunFlow([this] { StartNewSeason(); }); });
   On("mnuNationalStandings", [this] { Show<StandingsScreen>(Scope::kNational); });
   On("mnuConferenceStandings", [this] { Show<StandingsScreen>(Scope::kConference); });
   On("mnuNationalResults", [this] { Show<ScheduleScreen>(Scope::kNational); });
@@ -396,6 +397,12 @@ void MainWindow::NewDynasty() {
     begun = BeginNewDynasty(session_);
   });
   if (begun) Show<ConferenceChoiceScreen>();
+}
+
+// The season's figures live in memory from the first game on: they start
+// from the store's (empty) table once the season is open.
+void MainWindow::StartNewSeason() {
+  if (StartSeason(session_) == SeasonStart::kStarted) LoadSeasonStats(session_);
 }
 
 void MainWindow::ShowOptions() {

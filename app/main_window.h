@@ -89,6 +89,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void UpdateIntro();
   // File > New: the store emptied, then the conference choice.
   void NewDynasty();
+  // Off Season > Start Next Season.
+  void StartNewSeason();
   void CenterIntro();
   // Shows a screen in a window of its own, or brings forward the open screen
   // with the same key (and drops the new one).

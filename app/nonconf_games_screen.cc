@@ -40,7 +40,9 @@ GridView* ChoiceList(const NonConfRow& row, QWidget* parent) {
   list->Model()->SetRows(std::move(rows));
   list->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   list->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-  list->setMinimumHeight(list->verticalHeader()->defaultSectionSize() * 9 + 8);
+  // The present opponent and eight candidates show without scrolling.
+  list->setMinimumHeight(list->verticalHeader()->defaultSectionSize() * 9 +
+                         list->horizontalHeader()->sizeHint().height() + 4);
   return list;
 }
 

@@ -9,8 +9,12 @@
 #include <memory>
 
 #include "app/conference_choice_screen.h"
+#include "app/grid_model.h"
+#include "app/inbox_dock.h"
 #include "app/main_window.h"
+#include "app/sim_games_screen.h"
 #include "app/team_choice_screen.h"
+#include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
 #include "store/session.h"
 #include "store/store_files.h"
@@ -19,6 +23,8 @@ namespace courtmere::app {
 namespace {
 
 constexpr uint64_t kTourSeed = 2001;
+// Weeks 1 to 3 of the season.
+constexpr int kDaysPlayed = 8;
 // The coach's name shows that the screens keep an apostrophe and an accent.
 constexpr const char* kCoach = "Seán O'Neil";
 
@@ -57,12 +63,14 @@ class Tour {
   int Run() {
     Snap("intro");
     NewDynasty();
+    ReadFirstLetter();
     Snap("new_dynasty");
     Open("mnuNonConfPre", "nonconf_pre");
     Open("mnuNonConfOther", "nonconf_other");
+    window_->CloseScreens();
     window_->RunCommand("mnuOffSeasonStart");
-    Settle();
     Snap("season_start");
+    PlayDays();
     for (const auto& [entry, name] : kSeasonScreens) Open(entry, name);
     return shots_;
   }
@@ -108,6 +116,32 @@ class Tour {
     teams->CoachName()->setText(QString::fromUtf8(kCoach));
     Snap("team_choice");
     teams->Start();
+  }
+
+  void ReadFirstLetter() {
+    GridView* letters = window_->Inbox()->Grid();
+    if (letters->Model()->rowCount() > 0) emit letters->CellClicked(0, 1);
+  }
+
+  // The user sets his lineup and his coaches' roles as the computer would,
+  // and the ticker does not wait between games; then Sim Day and Next Day
+  // through the first days of the season.
+  void PlayDays() {
+    const std::string school = session_->humanSchool;
+    SetTeamLineup(*session_, school, 0);
+    SetCoachRoles(*session_, school);
+    session_->Db().Exec("UPDATE Config SET SimSpeed = 0 WHERE IdConfig = 0");
+    session_->config.SimSpeed = 0;
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    if (!games) return;
+    for (int day = 0; day < kDaysPlayed; ++day) {
+      if (day > 0) games->NextDay();
+      games->SimDay();
+    }
+    Snap("sim_games");
+    emit games->Grid()->CellClicked(0, 0);
+    Snap("box_score");
   }
 
   // One screen at a time, over the main window with its inbox.

@@ -52,8 +52,10 @@ GridView* Table(const StandingsTable& table, bool national, QWidget* parent) {
   std::vector<GridRow> rows;
   for (const StandingsRow& r : table.Rows) rows.push_back(Row(r, national));
   grid->Model()->SetRows(std::move(rows));
-  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  // The names take what they need, the figures share the rest.
+  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  if (national) grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   // A conference's table shows whole; the national one scrolls.
   if (!national) {
     const int rowHeight = grid->verticalHeader()->defaultSectionSize();
@@ -84,7 +86,7 @@ StandingsScreen::StandingsScreen(Session& session, ScreenHost& host, Scope scope
   scroll->setWidget(body_);
   layout->addWidget(title_);
   layout->addWidget(scroll, 1);
-  resize(scope_ == Scope::kNational ? 900 : 820, 640);
+  resize(scope_ == Scope::kNational ? 1000 : 900, 640);
   Refresh();
 }
 

@@ -18,12 +18,14 @@
 #include "app/conference_choice_screen.h"
 #include "app/grid_model.h"
 #include "app/inbox_dock.h"
+#include "app/leaders_screen.h"
 #include "app/main_window.h"
 #include "app/nonconf_games_screen.h"
 #include "app/sim_games_screen.h"
 #include "app/team_choice_screen.h"
 #include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
+#include "screens/leaders.h"
 #include "screens/nonconf_submit.h"
 #include "screenshots.h"
 #include "store/session.h"
@@ -285,6 +287,12 @@ class NewSeasonTest : public QObject {
     QCOMPARE(window_->Inbox()->Grid()->Model()->rowCount(),
              static_cast<int>(session_->inbox.Messages.size()));
     QVERIFY2(Played() > 300, qPrintable(QString::number(Played())));
+    // The games' figures reach the season's boards.
+    window_->Entry("mnuNationalLeaders")->trigger();
+    auto* leaders = Find<LeadersScreen>(*window_);
+    QVERIFY(leaders);
+    QVERIFY(leaders->Grid()->Model()->rowCount() >= kLeaderRows);  // more when 25th is shared
+    QVERIFY(leaders->Grid()->Model()->Cell(0, 4).text.toInt() >= 5);
   }
 
   void aPlayedGameOpensItsBoxScore() {
