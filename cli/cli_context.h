@@ -48,5 +48,15 @@ void AddStandingsCommand(CLI::App& app, CliContext& context);
 void AddTeamsCommand(CLI::App& app, CliContext& context);
 void AddScheduleCommand(CLI::App& app, CliContext& context);
 void AddNonConfCommand(CLI::App& app, CliContext& context);
+void AddSimCommand(CLI::App& app, CliContext& context);
+void AddAutoSimCommand(CLI::App& app, CliContext& context);
+void AddInboxCommand(CLI::App& app, CliContext& context);
+void AddBoxCommand(CLI::App& app, CliContext& context);
+void AddLogCommand(CLI::App& app, CliContext& context);
+void AddBenchSeasonCommand(CLI::App& app, CliContext& context);
+void AddPollCommand(CLI::App& app, CliContext& context);
+void AddCriCommand(CLI::App& app, CliContext& context);
+void AddAwardsCommand(CLI::App& app, CliContext& context);
+void AddBracketCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -36,6 +36,7 @@ bool CliUi::Ask(std::string_view question) {
 
 void CliUi::ShowProgress(std::string_view caption) {
   ScriptedUi::ShowProgress(caption);
+  if (inRun_) return;
   EndLine();
   caption_ = caption;
   fmt::print(stderr, "{}", caption_);
@@ -44,14 +45,37 @@ void CliUi::ShowProgress(std::string_view caption) {
 
 void CliUi::SetProgress(int percent) {
   ScriptedUi::SetProgress(percent);
-  if (!terminal_ || !lineOpen_) return;
-  const int filled = percent * kBarWidth / 100;
-  fmt::print(stderr, "\r{:<28} [{:#<{}}{:<{}}] {:3}%", caption_, "", filled, "", kBarWidth - filled,
-             percent);
+  if (inRun_ || !terminal_ || !lineOpen_) return;
+  DrawBar(caption_, percent, "");
 }
 
 void CliUi::HideProgress() {
   ScriptedUi::HideProgress();
+  if (!inRun_) EndLine();
+}
+
+void CliUi::DrawBar(std::string_view caption, int percent, std::string_view note) {
+  const int filled = percent * kBarWidth / 100;
+  fmt::print(stderr, "\r{:<28} [{:#<{}}{:<{}}] {:3}% {:<20}", caption, "", filled, "",
+             kBarWidth - filled, percent, note);
+  lineOpen_ = true;
+}
+
+void CliUi::BeginRun(std::string caption) {
+  EndLine();
+  inRun_ = true;
+  runCaption_ = std::move(caption);
+  runStart_ = std::chrono::steady_clock::now();
+}
+
+void CliUi::RunProgress(int done, int total, std::string_view note) {
+  if (!terminal_ || std::chrono::steady_clock::now() - runStart_ < std::chrono::seconds(1)) return;
+  DrawBar(runCaption_, total > 0 ? done * 100 / total : 100, note);
+  std::fflush(stderr);
+}
+
+void CliUi::EndRun() {
+  inRun_ = false;
   EndLine();
 }
 

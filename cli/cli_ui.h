@@ -3,8 +3,14 @@
 // "Courtmere: <text>"; the progress window is a caption and, on a terminal,
 // a bar on standard error, so that standard output holds only what a command
 // reports.
+//
+// A long run (a whole season) shows one bar of its own instead of the
+// captions of its many steps: between BeginRun and EndRun the steps'
+// progress is kept quiet, and the run's bar is drawn on a terminal once the
+// run has lasted a second.
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include "platform/scripted_ui.h"
@@ -21,12 +27,21 @@ class CliUi : public ScriptedUi {
   void SetProgress(int percent) override;
   void HideProgress() override;
 
+  void BeginRun(std::string caption);
+  // `done` of `total` units, with a note of where the run stands.
+  void RunProgress(int done, int total, std::string_view note);
+  void EndRun();
+
  private:
   void EndLine();
+  void DrawBar(std::string_view caption, int percent, std::string_view note);
 
   bool terminal_;
   bool lineOpen_ = false;
   std::string caption_;
+  bool inRun_ = false;
+  std::string runCaption_;
+  std::chrono::steady_clock::time_point runStart_;
 };
 
 }  // namespace courtmere::cli

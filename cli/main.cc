@@ -21,8 +21,18 @@ int main(int argc, char** argv) {
   courtmere::cli::AddTeamsCommand(app, context);
   courtmere::cli::AddScheduleCommand(app, context);
   courtmere::cli::AddNonConfCommand(app, context);
+  courtmere::cli::AddBracketCommand(app, context);
   courtmere::cli::AddSaveCommand(app, context);
   courtmere::cli::AddLoadCommand(app, context);
+  courtmere::cli::AddSimCommand(app, context);
+  courtmere::cli::AddAutoSimCommand(app, context);
+  courtmere::cli::AddInboxCommand(app, context);
+  courtmere::cli::AddBoxCommand(app, context);
+  courtmere::cli::AddLogCommand(app, context);
+  courtmere::cli::AddBenchSeasonCommand(app, context);
+  courtmere::cli::AddPollCommand(app, context);
+  courtmere::cli::AddCriCommand(app, context);
+  courtmere::cli::AddAwardsCommand(app, context);
 
   try {
     app.parse(argc, argv);

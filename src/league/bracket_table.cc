@@ -19,6 +19,19 @@ std::optional<SlotRow> ReadSlot(Store& store, const BracketTable& table, std::st
   return SlotRow{rows.Text(0), rows.Text(1), rows.Int(2), rows.Int(3)};
 }
 
+std::map<int, SlotRow> ReadGroup(Store& store, const BracketTable& table, std::string_view group) {
+  const std::string host = table.hasHost ? "HostCity" : "''";
+  std::map<int, SlotRow> slots;
+  for (Rows rows = store.Query(fmt::format("SELECT Seed, SchoolName, {}, Points, BoldFlag FROM {} "
+                                           "WHERE Conference = ? ORDER BY Id",
+                                           host, table.name),
+                               group);
+       rows.Next();) {
+    slots.try_emplace(rows.Int(0), SlotRow{rows.Text(1), rows.Text(2), rows.Int(3), rows.Int(4)});
+  }
+  return slots;
+}
+
 bool InsertSlot(Store& store, const BracketTable& table, std::string_view group, int slot,
                 const std::string& school, const std::string& host) {
   if (ReadSlot(store, table, group, slot)) return false;

@@ -4,6 +4,7 @@
 // round taken twice moves nobody on twice.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,6 +37,9 @@ struct SlotRow {
 
 std::optional<SlotRow> ReadSlot(Store& store, const BracketTable& table, std::string_view group,
                                 int slot);
+
+// Every row of a group, by slot.
+std::map<int, SlotRow> ReadGroup(Store& store, const BracketTable& table, std::string_view group);
 
 // Adds the row of `slot` unless the slot holds one; true when it was added.
 bool InsertSlot(Store& store, const BracketTable& table, std::string_view group, int slot,

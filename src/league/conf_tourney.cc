@@ -124,6 +124,11 @@ void AddRound(Session& session, const LeagueEntry& league, const std::string& co
 
 }  // namespace
 
+int ConfTourneyField(Store& store, const std::string& conference) {
+  const std::optional<LeagueEntry> league = FindLeague(store, conference);
+  return league ? league->field : 0;
+}
+
 std::string ConfTourneySize(std::string_view schedType) {
   return std::string(schedType.substr(0, 2));
 }
@@ -162,7 +167,8 @@ void AdvanceConfTourney(Session& session, const std::string& conference, int wee
   }
   if (const std::optional<SlotRow> champion =
           ReadSlot(store, kConfTourney, conference, kConfChampionSlot)) {
-    store.Exec("UPDATE Team SET Winner = 1 WHERE SchoolName = ?", champion->school);
+    // A title already raised by the NCT stays as it is when the day is taken again.
+    store.Exec("UPDATE Team SET Winner = 1 WHERE SchoolName = ? AND Winner = 0", champion->school);
   }
 }
 

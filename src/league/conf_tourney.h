@@ -11,11 +11,16 @@
 
 namespace courtmere {
 
+class Store;
 struct Session;
 
 // The field size a conference's schedule type stands for: the type itself
 // when it has at most two characters, else its first two ("12C" gives "12").
 std::string ConfTourneySize(std::string_view schedType);
+
+// The field of a conference's tournament as its schedule type sets it; 0 for
+// a conference League does not hold.
+int ConfTourneyField(Store& store, const std::string& conference);
 
 // At the end of week 15: seeds the conference by its standings (with
 // divisions, the best team of the other division is seed 2), writes its

@@ -5,6 +5,7 @@
 // the champion's mark and the year's history row.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -47,8 +47,9 @@ void SetupNationalTourneys(Session& session) {
   const bool nct = SetupNct(session);
   ShowStatus(session, "Setting up ACT");
   const bool act = SetupAct(session);
-  tx.Commit();
+  // A selection made before has told the user already.
   if (nct || act) TellUser(session);
+  tx.Commit();
 }
 
 void RecordPostseasonDay(Session& session, int week, const std::string& day) {

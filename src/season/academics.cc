@@ -40,7 +40,8 @@ void GradeTeam(Session& session, const std::string& school) {
   std::vector<Student> students;
   int hurt = 0;
   for (Rows r = store.Query(
-           "SELECT GPA, Id, Intelligence, Health FROM Player WHERE Team = ? ORDER BY rowid", school);
+           "SELECT GPA, Id, Intelligence, Health FROM Player WHERE Team = ? ORDER BY rowid",
+           school);
        r.Next();) {
     students.push_back({r.Double(0), r.Int(1), r.Int(2)});
     if (r.Text(3) != "Good") ++hurt;

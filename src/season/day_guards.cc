@@ -21,9 +21,9 @@ bool RecruitingPointsQuestion(SeasonRun& run) {
 }
 
 // The chart's fifteen places and the inactive man, in the order checked.
-constexpr std::array<const char*, 16> kChartFields = {
-    "PG1", "PG2", "PG3", "SG1", "SG2", "SG3", "SF1", "SF2",
-    "SF3", "PF1", "PF2", "PF3", "C1",  "C2",  "C3",  "Inactive"};
+constexpr std::array<const char*, 16> kChartFields = {"PG1", "PG2", "PG3", "SG1",     "SG2", "SG3",
+                                                      "SF1", "SF2", "SF3", "PF1",     "PF2", "PF3",
+                                                      "C1",  "C2",  "C3",  "Inactive"};
 
 bool DepthChartReady(Session& session) {
   Store& store = session.Db();
@@ -41,10 +41,10 @@ bool DepthChartReady(Session& session) {
       return false;
     }
     if (i + 1 == kChartFields.size()) break;
-    Rows man = store.Query(
-        "SELECT Redshirt, Inactive, Suspended, Health FROM Player WHERE Id = ?", id);
-    if (man.Next() && (man.Int(0) == 1 || man.Int(1) == 1 || man.Int(2) == 1 ||
-                       man.Text(3) != "Good")) {
+    Rows man =
+        store.Query("SELECT Redshirt, Inactive, Suspended, Health FROM Player WHERE Id = ?", id);
+    if (man.Next() &&
+        (man.Int(0) == 1 || man.Int(1) == 1 || man.Int(2) == 1 || man.Text(3) != "Good")) {
       session.ui.Message(
           "You have a redshirt, suspended, injured or inactive player listed in your depth "
           "chart. Please correct this before simming games.");
@@ -68,8 +68,9 @@ bool ScholarshipQuestion(Session& session) {
   if (c.CurrWeek != 15 || c.CurrDay != "Saturday") return true;
   Store& store = session.Db();
   const int64_t offered =
-      store.ScalarInt("SELECT count(*) FROM RecruitDecision WHERE Team = ? AND Scholarship = 1",
-                      session.humanSchool)
+      store
+          .ScalarInt("SELECT count(*) FROM RecruitDecision WHERE Team = ? AND Scholarship = 1",
+                     session.humanSchool)
           .value_or(0);
   const int64_t allowed =
       store.ScalarInt("SELECT Scholarships FROM Team WHERE SchoolName = ?", session.humanSchool)

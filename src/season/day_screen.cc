@@ -16,10 +16,9 @@ constexpr const char* kRowColumns =
 void ReadRows(Session& session, const std::string& table, const std::string& sql,
               std::vector<DayRow>& out, const CalendarDay& day) {
   Store& store = session.Db();
-  Rows rows = table == "NonConfSchedule"
-                  ? store.Query(sql, session.humanConference, session.humanConference, day.week,
-                                day.day)
-                  : store.Query(sql, day.week, day.day);
+  Rows rows = table == "NonConfSchedule" ? store.Query(sql, session.humanConference,
+                                                       session.humanConference, day.week, day.day)
+                                         : store.Query(sql, day.week, day.day);
   while (rows.Next()) {
     DayRow r;
     r.Table = table;

@@ -60,7 +60,7 @@ struct DayScreen {
 };
 
 // The screen's columns.
-inline constexpr const char* kDayColumns[] = {"Home Team", "Score",     "Away Team", "Score",
+inline constexpr const char* kDayColumns[] = {"Home Team", "Score",    "Away Team", "Score",
                                               "Points(H)", "Rebs.(H)", "Points(A)", "Rebs.(A)"};
 
 // Opens the screen on the dynasty's day, the box ticked by the option

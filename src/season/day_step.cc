@@ -7,12 +7,15 @@
 
 #include "cpu/computer_roster.h"
 #include "engine/engine_error.h"
+#include "league/conf_tourney.h"
+#include "league/national_tourneys.h"
 #include "schedule/preseason_advance.h"
 #include "season/calendar.h"
 #include "season/day_guards.h"
 #include "season/game_batch.h"
 #include "season/injury_report.h"
 #include "season/recruiting_week.h"
+#include "season/schedule_tables.h"
 #include "season/season_observer.h"
 #include "season/season_run.h"
 #include "season/week_end.h"
@@ -45,8 +48,7 @@ void SetUpLineups(SeasonRun& run, bool automatic) {
 
 std::string UsersPreseasonTournament(Session& session) {
   return session.Db()
-      .ScalarText("SELECT HostCity FROM PreSeasonTourney WHERE SchoolName = ?",
-                  session.humanSchool)
+      .ScalarText("SELECT HostCity FROM PreSeasonTourney WHERE SchoolName = ?", session.humanSchool)
       .value_or("");
 }
 
@@ -63,26 +65,19 @@ bool PlayListedGames(SeasonRun& run) {
   }
 }
 
-std::vector<std::string> Conferences(Store& store) {
-  std::vector<std::string> names;
-  for (Rows r = store.Query("SELECT Conference FROM League ORDER BY rowid"); r.Next();) {
-    names.push_back(r.Text(0));
-  }
-  return names;
-}
-
 // Every game of the day outside the user's list, background ones included.
 void PlayRestOfDay(SeasonRun& run, int week, const std::string& day) {
   Store& store = run.session.Db();
   SimConferenceGames(run, day, "NonConference", week);
   if (week == 1) AdvancePreseasonWinners(store, week, day);
-  for (const std::string& conference : Conferences(store)) {
+  for (const std::string& conference : LeagueConferences(store)) {
     if (std::find(run.played.begin(), run.played.end(), conference) != run.played.end()) continue;
     SimConferenceGames(run, day, conference, week);
   }
 }
 
-// Steps 4 to 8: false when the user's list could not be played.
+// Steps 4 to 8: the games, then the tournaments' next rounds; false when
+// the user's list could not be played.
 bool PlayGames(SeasonRun& run, bool automatic, int week, const std::string& day) {
   Session& session = run.session;
   if (!automatic && !PlayListedGames(run)) return false;
@@ -94,6 +89,12 @@ bool PlayGames(SeasonRun& run, bool automatic, int week, const std::string& day)
     }
   }
   if (week < 17) PlayRestOfDay(run, week, day);
+  if (week == 16) {
+    for (const std::string& conference : LeagueConferences(session.Db())) {
+      AdvanceConfTourney(session, conference, week, day);
+    }
+  }
+  if (week >= 17) RecordPostseasonDay(session, week, day);
   return true;
 }
 
@@ -101,9 +102,8 @@ void WriteCalendar(Session& session, const CalendarDay& next) {
   Config& c = session.config;
   c.CurrWeek = next.week;
   c.CurrDay = next.day;
-  session.Db().Exec(
-      "UPDATE Config SET CurrWeek = ?, CurrDay = ?, CurrYear = ? WHERE IdConfig = 0", c.CurrWeek,
-      c.CurrDay, c.CurrYear);
+  session.Db().Exec("UPDATE Config SET CurrWeek = ?, CurrDay = ?, CurrYear = ? WHERE IdConfig = 0",
+                    c.CurrWeek, c.CurrDay, c.CurrYear);
 }
 
 // Step 14: the next week begins, with the user's recruiting budget.
@@ -180,12 +180,17 @@ DayOutcome RunStep(SeasonRun& run, bool automatic) {
   if (session.config.Stage != kStageSeason || session.config.CurrWeek > kLastSeasonWeek) {
     return DayOutcome::kStopped;
   }
-  if (!automatic && !PassDayGuards(run)) return DayOutcome::kStopped;
   MemoryOfDay memory(session);
   const CalendarDay today{session.config.CurrWeek, session.config.CurrDay};
   DayOutcome outcome = DayOutcome::kPlayed;
   try {
     Store::Transaction tx(session.Db());
+    if (!automatic && run.cpuSetsUserTeam) {
+      SetCoachRoles(session, session.humanSchool);
+      SetTeamLineup(session, session.humanSchool, 0);
+    }
+    // A refusal rolls back with the transaction: nothing has changed.
+    if (!automatic && !PassDayGuards(run)) return DayOutcome::kStopped;
     if (PlayDay(run, automatic)) {
       tx.Commit();
     } else {

@@ -49,9 +49,10 @@ SeasonEnd EndSeason(SeasonRun& run) {
   // The menu offers End Season only once the season is over; a caller
   // without the menu hears why nothing happens.
   if (session.config.Stage != kStageSeasonOver) {
-    session.ui.Message("The season can only be ended in the stage Season Over; the dynasty "
-                       "stands in " +
-                       session.config.Stage + ".");
+    session.ui.Message(
+        "The season can only be ended in the stage Season Over; the dynasty "
+        "stands in " +
+        session.config.Stage + ".");
     return SeasonEnd::kRefused;
   }
   if (!session.ui.Ask("Do you wish to end this season?")) return SeasonEnd::kDeclined;

@@ -6,6 +6,7 @@
 #include "engine/box_score.h"
 #include "engine/post_game.h"
 #include "engine/run_engine.h"
+#include "season/schedule_tables.h"
 #include "season/season_observer.h"
 #include "season/season_run.h"
 #include "season/seeded_name.h"
@@ -119,10 +120,9 @@ void ShowOnTicker(SeasonRun& run, const std::string& home, const std::string& aw
   if (run.observer == nullptr) return;
   Session& session = run.session;
   const bool homeWon = g.homeScore > g.awayScore;
-  run.observer->GameResult(RankedName(session, homeWon ? home : away),
-                           homeWon ? g.homeScore : g.awayScore,
-                           RankedName(session, homeWon ? away : home),
-                           homeWon ? g.awayScore : g.homeScore);
+  run.observer->GameResult(
+      RankedName(session, homeWon ? home : away), homeWon ? g.homeScore : g.awayScore,
+      RankedName(session, homeWon ? away : home), homeWon ? g.awayScore : g.homeScore);
   if (session.config.SimSpeed > 0) run.observer->Wait(session.config.SimSpeed / 10.0);
 }
 
@@ -165,9 +165,11 @@ void StoreListedResult(SeasonRun& run, DayRow& row, const GameRequest& request,
     CountBackgroundResult(store, request.HomeTeam, homeWon);
     CountBackgroundResult(store, request.AwayTeam, !homeWon);
   }
-  RowResult result{g.homeScore, g.awayScore,
+  RowResult result{g.homeScore,
+                   g.awayScore,
                    {row.HomePoints, row.HomeRebounds, row.AwayPoints, row.AwayRebounds},
-                   g.boxFile, g.logFile};
+                   g.boxFile,
+                   g.logFile};
   RewriteRow(store, row.Table, row.GameNo, result);
 }
 
@@ -223,12 +225,6 @@ std::string LeaderCell(const std::string& abbrName, int value) {
   return (abbrName.size() > 3 ? abbrName.substr(3) : std::string()) + "-" + std::to_string(value);
 }
 
-std::string ScheduleTableOf(SeasonRun& run, const std::string& conference) {
-  const auto id =
-      run.session.Db().ScalarInt("SELECT Id FROM League WHERE Conference = ?", conference);
-  return id ? "League" + std::to_string(*id) + "Schedule" : std::string();
-}
-
 bool SimListedGames(SeasonRun& run) {
   Session& session = run.session;
   int index = 0;
@@ -253,7 +249,7 @@ bool SimConferenceGames(SeasonRun& run, const std::string& day, const std::strin
                         int week) {
   Session& session = run.session;
   const std::string table =
-      conference == "NonConference" ? "NonConfSchedule" : ScheduleTableOf(run, conference);
+      conference == "NonConference" ? "NonConfSchedule" : ScheduleTableOf(session.Db(), conference);
   if (table.empty()) return true;
   const std::vector<BatchRow> rows = UnplayedRows(session.Db(), table, day, week);
   if (rows.empty()) return true;

@@ -44,7 +44,4 @@ int SeedCourtEdge(int homeSeed, int awaySeed);
 // the number ("J. Smith", 24 gives "Smith-24").
 std::string LeaderCell(const std::string& abbrName, int value);
 
-// "League<Id>Schedule" for a conference, or "" when it has no League row.
-std::string ScheduleTableOf(SeasonRun& run, const std::string& conference);
-
 }  // namespace courtmere

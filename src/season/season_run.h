@@ -41,6 +41,11 @@ struct SeasonRun {
   // The conferences whose games this step has played (at most 10).
   std::vector<std::string> played;
   bool autoSim = false;
+  // Sim Day with the user's coaches' roles and depth chart set by the
+  // computer's routines before the guards, as under the auto-sim: for a
+  // front end without the staff and depth-chart screens (the command-line
+  // tool).
+  bool cpuSetsUserTeam = false;
   // Runs at the end of each day step, inside its transaction: the command-
   // line tool writes the season's figures there, so that a stored day never
   // lacks them.

@@ -3,10 +3,16 @@
 #include <vector>
 
 #include "cpu/computer_roster.h"
+#include "league/conf_tourney.h"
+#include "league/cri.h"
+#include "league/national_tourneys.h"
+#include "league/poll.h"
 #include "league/team_ratings.h"
 #include "season/academics.h"
+#include "season/awards.h"
 #include "season/heal_injuries.h"
 #include "season/recruiting_week.h"
+#include "season/season_observer.h"
 #include "season/season_run.h"
 #include "store/session.h"
 
@@ -34,8 +40,8 @@ void UpdateBackgroundStats(SeasonRun& run, int games) {
 void WriteScholarships(Session& session) {
   Store& store = session.Db();
   for (const std::string& school : Schools(store)) {
-    store.Exec("UPDATE Team SET Scholarships = ? WHERE SchoolName = ?",
-               Scholarships(store, school), school);
+    store.Exec("UPDATE Team SET Scholarships = ? WHERE SchoolName = ?", Scholarships(store, school),
+               school);
   }
 }
 
@@ -82,6 +88,28 @@ void WeekTen(SeasonRun& run) {
                   "them, select News and Recruit Test Scores from the main menu.");
 }
 
+// Every conference with a schedule type gets its tournament and its
+// all-conference teams, then the nation its freshman and All America teams.
+void SetUpPostseason(Session& session) {
+  struct League {
+    std::string conference;
+    std::string schedType;
+  };
+  std::vector<League> leagues;
+  for (Rows r = session.Db().Query(
+           "SELECT Conference, SchedType FROM League WHERE SchedType <> '' ORDER BY Id");
+       r.Next();) {
+    leagues.push_back({r.Text(0), r.Text(1)});
+  }
+  for (const League& league : leagues) {
+    SetupConfTourney(session, league.conference, ConfTourneySize(league.schedType));
+    PickConferenceTeam(session, league.conference, "All");
+    PickConferenceTeam(session, league.conference, "Freshman");
+  }
+  PickConferenceTeam(session, "National", "Freshman");
+  PickNationalTeams(session);
+}
+
 void WeekFifteen(SeasonRun& run) {
   Session& session = run.session;
   Progress(run, "Setting up Postseason");
@@ -89,6 +117,14 @@ void WeekFifteen(SeasonRun& run) {
   AddInboxMessage(session, "Compliance Dir", "Academic Update",
                   "With the postseason coming up, we have been able to lift the suspensions for "
                   "some players.");
+  SetUpPostseason(session);
+  if (run.observer != nullptr) run.observer->ShowConferenceBracket(session.humanConference);
+  AddInboxMessage(session, "Dynasty Gazette", "All-America Voting in!",
+                  "The All-America votes have been tallied and the results are in. Check to see "
+                  "if any " +
+                      session.humanSchool +
+                      " players made it by selecting the All America Team option from the "
+                      "Headlines menu option.");
 }
 
 // The week's own events; the caption is set in its place among them.
@@ -196,9 +232,19 @@ std::string WeekEndCaption(int week) {
 void EndWeek(SeasonRun& run, int week, const std::string& day) {
   Session& session = run.session;
   HealInjuries(session);
-  if (week == 16 && day == "Sunday") return;
-  if (week == 1) {
-    session.Db().Exec("DELETE FROM WeekAward WHERE id > 0");
+  if (week == 16 && day == "Sunday") {
+    Progress(run, "Updating Rankings");
+    UpdateCRI(session);
+    UpdatePoll(session);
+    SetupNationalTourneys(session);
+    return;
+  }
+  if (week < 17) {
+    PickPlayerOfWeek(session);
+    if (week == 1) session.Db().Exec("DELETE FROM WeekAward WHERE id > 0");
+    Progress(run, "Updating Rankings");
+    if (week > 4) UpdateCRI(session);
+    UpdatePoll(session);
   }
   WeekEvents(run, week);
   RecruitingWeekEnd(run, week);
@@ -206,11 +252,16 @@ void EndWeek(SeasonRun& run, int week, const std::string& day) {
 
 void WeekFiveEvents(SeasonRun& run) {
   Session& session = run.session;
+  RecruitingWeek& recruiting = *run.recruiting;
   HealInjuries(session);
-  if (run.recruiting->Active()) {
-    run.recruiting->ComputerRecruiting(session, 5);
-    run.recruiting->ClearWeekDecisions(session);
-  }
+  if (recruiting.Active()) recruiting.ComputerRecruiting(session, 5);
+  UpdateCRI(session);
+  if (recruiting.Active()) recruiting.ClearWeekDecisions(session);
+  AddInboxMessage(session, "Dynasty Gazette", "CRI Ranking",
+                  "A News Service has just released the current College Rating Index (CRI) for "
+                  "this season. In this index, each team is judged on factors like winning "
+                  "percentage and strength of schedule. Click National and View CRI to see these "
+                  "rankings.");
   run.caption = WeekEndCaption(5);
 }
 

@@ -1,8 +1,10 @@
 // What the end of a week brings, in the order the day step runs it: the
-// healing, the week's awards and rankings, the week's own events (marks,
-// background statistics, the turn of the year in week 6, the lifting of
-// suspensions in week 15, the recruiting events) and the computer's
-// recruiting. Week 5, which has no games, has its own short step.
+// healing, the player of the week and the rankings (the poll, and the rating
+// index from week 5), the week's own events (marks, background statistics,
+// the turn of the year in week 6, the postseason's set-up in week 15, the
+// recruiting events) and the computer's recruiting. The Sunday of week 16
+// ranks the teams and selects the national tournaments instead. Week 5,
+// which has no games, has its own short step.
 #pragma once
 
 #include <string>

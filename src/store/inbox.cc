@@ -9,8 +9,7 @@ void AddInboxMessage(Session& session, std::string_view sender, std::string_view
   session.Db().Exec(
       "INSERT INTO InboxMessage (Week, Year, Sender, Subject, Text) VALUES (?, ?, ?, ?, ?)",
       session.inbox.Week, session.config.CurrYear, sender, subject, text);
-  session.inbox.Messages.push_back(
-      {std::string(sender), std::string(subject), std::string(text)});
+  session.inbox.Add(sender, subject, text);
 }
 
 void BringInboxUpTo(Session& session, int week) {

@@ -30,6 +30,12 @@ struct InboxMessage {
 struct Inbox {
   int Week = 0;
   std::vector<InboxMessage> Messages;
+
+  // Appends to the list only; letters are sent with AddInboxMessage, which
+  // keeps them in the store as well.
+  void Add(std::string_view sender, std::string_view subject, std::string_view text) {
+    Messages.push_back({std::string(sender), std::string(subject), std::string(text)});
+  }
 };
 
 // Sends a letter: it joins the current list and is kept in the store under

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# The command-line tool's poll, cri and awards, run as a user would: the
+# preseason poll of a started season, and the refusals (status 2, the
+# program's message, nothing changed) for what has not been released.
+#   cli_rankings.sh <courtmere-cli> <scratch folder>
+set -uo pipefail
+cli=$1
+work=$2
+rm -rf "$work" && mkdir -p "$work"
+trap 'rm -rf "$work"' EXIT
+
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+# run <status> <args...>: runs the tool, checks its exit status, keeps its output in $out.
+run() {
+  local expected=$1
+  shift
+  out=$("$cli" --home "$work/d" "$@" 2>"$work/stderr")
+  local status=$?
+  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
+$out
+$(cat "$work/stderr")"
+}
+expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
+$out"; }
+expect_line() { grep -Eq "$1" <<<"$out" || fail "expected a line like \"$1\" in:
+$out"; }
+unchanged() { cmp -s "$work/before.dat" "$work/d/mereball.dat" || fail "$1 changed the store"; }
+
+run 2 poll
+expect "Courtmere: There is no dynasty in this program folder."
+
+run 0 --seed 1 new --conferences "MVC;WAC;Atlantic 10" --school "St. John's" --coach "D'Angelo O'Neil"
+cp "$work/d/mereball.dat" "$work/before.dat"
+run 2 poll
+expect "Courtmere: No poll has been released yet."
+unchanged "poll"
+
+run 0 start-season
+cp "$work/d/mereball.dat" "$work/before.dat"
+run 0 poll
+expect "TOP 25 Media Poll: Preseason, 2001"
+expect_line "^ +Rank +Team +Record +Points +Previous$"
+expect_line "^ +1 +[A-Z].* +0-0 +[0-9]+ +1$"
+expect_line "^ +25 +[A-Z].* +0-0 +[0-9]+ +25$"
+[[ $(grep -Ec '^[ *] +[0-9]+ ' <<<"$out") == 25 ]] || fail "the poll does not show 25 rows:
+$out"
+expect "Others receiving votes: "
+run 0 poll --week 0
+unchanged "poll"
+
+run 2 poll --week 3
+expect "Courtmere: Only the latest poll is kept: Preseason (--week 0)."
+run 2 cri
+expect "Courtmere: The College Rating Index is released at the end of week 5."
+run 2 awards
+expect "Courtmere: No Player of the Week has been named yet."
+run 2 awards --week 2
+expect "Courtmere: No Player of the Week was named in week 2."
+run 2 awards --season
+expect "Courtmere: The season's honours are named at the end of week 15."
+run 2 awards --season --conference "Nowhere League"
+expect "Courtmere: League not found"
+unchanged "a refused command"
+echo "cli_rankings passed"

@@ -1,0 +1,83 @@
+#!/usr/bin/env bash
+# The season commands of the command-line tool, run as a user would: sim
+# refuses before the season with status 2 and the store unchanged, a fixed
+# seed replays the same days to the same store, the week lines and the
+# inbox, the box score of the user's game, the auto-sim to week 15, and a
+# season played to "Season Over".
+#   cli_season.sh <courtmere-cli> <scratch folder>
+set -uo pipefail
+cli=$1
+work=$2
+rm -rf "$work" && mkdir -p "$work"
+trap 'rm -rf "$work"' EXIT
+
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+# run <status> <args...>: runs the tool, checks its exit status, keeps its output in $out.
+run() {
+  local expected=$1
+  shift
+  out=$("$cli" "$@" 2>"$work/stderr")
+  local status=$?
+  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
+$out
+$(cat "$work/stderr")"
+}
+
+expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
+$out"; }
+
+new=(new --conferences "MVC;WAC;Atlantic 10" --school "St. John's" --coach "D'Angelo O'Neil")
+
+for home in a b; do
+  run 0 --home "$work/$home" --seed 3 "${new[@]}"
+done
+# Before Start Season there is nothing to play.
+cp "$work/a/mereball.dat" "$work/before.dat"
+run 2 --home "$work/a" sim
+expect "Courtmere: Games can only be played in the stage Season; the dynasty stands in Post Training"
+cmp -s "$work/before.dat" "$work/a/mereball.dat" || fail "a refused sim changed the store"
+
+for home in a b; do
+  run 0 --home "$work/$home" --seed 3 start-season
+  run 0 --home "$work/$home" --seed 5 sim
+  expect "Week 1, 2001, Thursday"
+  expect "1 day(s) played; now week 1, Friday"
+  run 0 --home "$work/$home" --seed 6 sim --to-week 4
+done
+cmp -s "$work/a/mereball.dat" "$work/b/mereball.dat" ||
+  fail "two runs of sim with the same seeds left different stores"
+expect "Week  3:"
+expect "now week 4, Thursday"
+
+run 2 --home "$work/a" sim --to-week 2
+expect "The week to reach must lie after week 4"
+
+run 0 --home "$work/a" inbox --week 1
+expect "Assistant Coach Season Instructions"
+run 0 --home "$work/a" inbox
+expect "Inbox, week 3"
+expect "Compliance Dir Academic Update"
+
+# The user's first game keeps its box score; no log without the play-by-play.
+game=$("$cli" --home "$work/a" schedule --school "St. John's" --week 1 | awk '$1 == 1 { print $3; exit }')
+[[ -n $game ]] || fail "no game of St. John's in week 1"
+run 0 --home "$work/a" box "$game"
+expect "St. John's"
+run 2 --home "$work/a" log "$game"
+expect "No play-by-play log was kept for game $game"
+run 2 --home "$work/a" box 999999
+expect "There is no game 999999 in this season."
+
+run 0 --home "$work/a" autosim
+expect "now week 15, Thursday"
+run 2 --home "$work/a" autosim
+expect "The auto sim runs only until week 15."
+
+run 0 --home "$work/a" sim --season
+expect "Week 20:"
+expect "now week 21, Monday"
+expect "stage Season Over"
+run 2 --home "$work/a" sim
+expect "the dynasty stands in Season Over"
+echo "cli_season passed"
