@@ -29,6 +29,9 @@ struct GridCell {
 
 using GridRow = std::vector<GridCell>;
 
+// The colour of the user's school in the tables that rank schools.
+inline const QColor kUserBlue{0, 0, 205};
+
 class GridModel : public QAbstractTableModel {
   Q_OBJECT
 

@@ -50,7 +50,7 @@ void LeadersScreen::Refresh() {
   const std::string conference = conferences_ ? ToStdString(conferences_->currentText()) : "";
   std::vector<GridRow> rows;
   std::vector<int> ids;
-  for (const LeaderRow& r : Leaders(session_, conference, stat)) {
+  for (const LeaderLine& r : Leaders(session_, conference, stat)) {
     rows.push_back({GridCell::Whole(r.Rank), GridCell::Text(r.Name), GridCell::Text(r.Position),
                     GridCell::Text(r.School), GridCell::Whole(r.Games),
                     GridCell::Number(r.Value, r.ValueText)});

@@ -9,7 +9,9 @@
 
 #include "app/about_dialog.h"
 #include "app/box_score_screen.h"
+#include "app/bracket_screen.h"
 #include "app/conference_choice_screen.h"
+#include "app/cri_screen.h"
 #include "app/game_log_screen.h"
 #include "app/help_screen.h"
 #include "app/inbox_dock.h"
@@ -28,6 +30,7 @@
 #include "app/team_info_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
+#include "app/top25_screen.h"
 #include "league/clear_dynasty.h"
 #include "league/new_dynasty.h"
 #include "league/start_season.h"
@@ -77,7 +80,9 @@ MainWindow::MainWindow(Session& session, QWidget* parent)
       session_(session),
       area_(new QMdiArea(this)),
       inbox_(new InboxDock(session, this)),
-      ticker_(new ScoreTicker([](const std::string&, const std::string&) {}, this)) {
+      ticker_(new ScoreTicker(
+          [this](const std::string& kind, const std::string& name) { OpenBracket(kind, name); },
+          this)) {
   setObjectName("frmMDI");
   setWindowIcon(Basketball());
   area_->setBackground(Chalkboard());
@@ -91,7 +96,7 @@ MainWindow::MainWindow(Session& session, QWidget* parent)
   ApplyGate(StartUpMenus());
 }
 
-// The screens' windows go before the window's own members do.
+// From here on the screens go down with the window: the intro stays away.
 MainWindow::~MainWindow() {
   tearingDown_ = true;
 }
@@ -147,6 +152,14 @@ void MainWindow::RegisterCommands() {
   On("mnuConferenceLeaders", [this] { Show<LeadersScreen>(Scope::kConference); });
   On("mnuNationalInjuries", [this] { Show<InjuriesScreen>(Scope::kNational); });
   On("mnuConferenceInjuries", [this] { Show<InjuriesScreen>(Scope::kConference); });
+  On("mnuNationalTop25", [this] { Show<Top25Screen>(); });
+  On("mnuNationalCRI", [this] { Show<CriScreen>(); });
+  On("mnuPostseasonConf", [this] { Show<BracketScreen>(BracketScreen::Kind::kConference); });
+  On("mnuPostseasonNCT", [this] { Show<BracketScreen>(BracketScreen::Kind::kNct); });
+  On("mnuPostseasonACT", [this] { Show<BracketScreen>(BracketScreen::Kind::kAct); });
+  On("mnuSeasonHawaii", [this] { OpenBracket("Preseason", "Hawaii Classic"); });
+  On("mnuSeasonAlaska", [this] { OpenBracket("Preseason", "Alaska Challenge"); });
+  On("mnuSeasonPreACT", [this] { OpenBracket("Preseason", "Preseason ACT"); });
   On("mnuSeasonViewGameLogs", [this] { Show<GameLogScreen>(); });
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
@@ -334,6 +347,12 @@ void MainWindow::OpenBoxScore(const std::filesystem::path& file) {
 
 void MainWindow::OpenTextFile(const std::filesystem::path& file) {
   Show<TextViewer>(file);
+}
+
+void MainWindow::OpenBracket(const std::string& kind, const std::string& name) {
+  const auto shown =
+      kind == "Preseason" ? BracketScreen::Kind::kPreseason : BracketScreen::Kind::kConference;
+  Show<BracketScreen>(shown, name);
 }
 
 void MainWindow::OpenScreen(Screen* screen) {

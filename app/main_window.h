@@ -68,6 +68,9 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void OpenBoxScore(const std::filesystem::path& file) override;
   void OpenTextFile(const std::filesystem::path& file) override;
   void OpenScreen(Screen* screen) override;
+  // A tournament's bracket, as the day step asks for it: kind "Preseason"
+  // with the tournament's name, or "Conference" with the conference's.
+  void OpenBracket(const std::string& kind, const std::string& name);
   void RunFlow(const std::function<void()>& flow) override;
   void StoreChanged() override;
 

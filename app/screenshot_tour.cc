@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -25,6 +26,8 @@ namespace {
 constexpr uint64_t kTourSeed = 2001;
 // Weeks 1 to 3 of the season.
 constexpr int kDaysPlayed = 8;
+// Then on to the week after the first rounds of the NCT.
+constexpr int kLastWeekPlayed = 18;
 // The coach's name shows that the screens keep an apostrophe and an accent.
 constexpr const char* kCoach = "Seán O'Neil";
 
@@ -40,6 +43,17 @@ constexpr const char* kSeasonScreens[][2] = {
     {"mnuNationalLeaders", "leaders"},
     {"mnuNationalInjuries", "injuries"},
     {"mnuSeasonViewGameLogs", "game_logs"},
+    {"mnuNationalTop25", "top25"},
+    {"mnuSeasonHawaii", "preseason_bracket"},
+};
+
+// The screens of the season's end, once the national tournaments have begun.
+constexpr const char* kPostseasonScreens[][2] = {
+    {"mnuNationalCRI", "cri"},
+    {"mnuPostseasonConf", "conference_bracket"},
+    {"mnuPostseasonNCT", "nct_bracket"},
+    {"mnuPostseasonACT", "act_bracket"},
+    {"mnuConferenceStandings", "final_standings"},
 };
 
 class Tour {
@@ -72,6 +86,8 @@ class Tour {
     Snap("season_start");
     PlayDays();
     for (const auto& [entry, name] : kSeasonScreens) Open(entry, name);
+    PlayOn();
+    for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
     return shots_;
   }
 
@@ -123,13 +139,11 @@ class Tour {
     if (letters->Model()->rowCount() > 0) emit letters->CellClicked(0, 1);
   }
 
-  // The user sets his lineup and his coaches' roles as the computer would,
+  // The user sets his coaches' roles as the computer would,
   // and the ticker does not wait between games; then Sim Day and Next Day
   // through the first days of the season.
   void PlayDays() {
-    const std::string school = session_->humanSchool;
-    SetTeamLineup(*session_, school, 0);
-    SetCoachRoles(*session_, school);
+    SetCoachRoles(*session_, session_->humanSchool);
     session_->Db().Exec("UPDATE Config SET SimSpeed = 0 WHERE IdConfig = 0");
     session_->config.SimSpeed = 0;
     window_->RunCommand("mnuSeasonSimGames");
@@ -137,11 +151,33 @@ class Tour {
     if (!games) return;
     for (int day = 0; day < kDaysPlayed; ++day) {
       if (day > 0) games->NextDay();
-      games->SimDay();
+      SimDay(*games);
     }
     Snap("sim_games");
     emit games->Grid()->CellClicked(0, 0);
     Snap("box_score");
+  }
+
+  // The user keeps his depth chart clear of the injured and suspended, as
+  // the computer would set it, before each press of Sim Day.
+  void SimDay(SimGamesScreen& games) {
+    SetTeamLineup(*session_, session_->humanSchool, 0);
+    games.SimDay();
+  }
+
+  // Day after day to the second week of the national tournaments.
+  void PlayOn() {
+    window_->CloseScreens();
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    for (int step = 0; games && session_->config.CurrWeek < kLastWeekPlayed && step < 200; ++step) {
+      if (games->SimButton()->isEnabled()) {
+        SimDay(*games);
+      } else {
+        games->NextDay();
+      }
+    }
+    Snap("sim_games_postseason");
   }
 
   // One screen at a time, over the main window with its inbox.

@@ -13,9 +13,6 @@
 namespace courtmere::app {
 namespace {
 
-// The user's school.
-const QColor kUserBlue(0, 0, 205);
-
 QStringList Headings(bool national) {
   QStringList headings = {"Team\nName"};
   if (national) headings << "\nConference";

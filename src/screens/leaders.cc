@@ -85,8 +85,8 @@ std::string ValueText(double value, LeaderStat stat) {
   return IsPercentage(stat) ? FormatPercent(value) : FormatOneDecimal(value);
 }
 
-LeaderRow RowOf(Store& store, const Candidate& c, int rank, LeaderStat stat) {
-  LeaderRow row;
+LeaderLine RowOf(Store& store, const Candidate& c, int rank, LeaderStat stat) {
+  LeaderLine row;
   row.Rank = rank;
   row.PlayerId = c.line->Id;
   row.School = *c.school;
@@ -117,12 +117,12 @@ const std::vector<LeaderStatInfo>& LeaderStats() {
   return stats;
 }
 
-std::vector<LeaderRow> Leaders(Session& session, const std::string& conference, LeaderStat stat) {
+std::vector<LeaderLine> Leaders(Session& session, const std::string& conference, LeaderStat stat) {
   std::vector<Candidate> candidates =
       Candidates(session.seasonStats, BoardSchools(session.Db(), conference), stat);
   std::stable_sort(candidates.begin(), candidates.end(),
                    [](const Candidate& a, const Candidate& b) { return a.value > b.value; });
-  std::vector<LeaderRow> rows;
+  std::vector<LeaderLine> rows;
   for (size_t i = 0; i < candidates.size(); ++i) {
     const bool tied = i > 0 && candidates[i].value == candidates[i - 1].value;
     const int rank = tied ? rows.back().Rank : static_cast<int>(i) + 1;

@@ -30,7 +30,7 @@ struct LeaderStatInfo {
 // The boards in the order the screen offers them.
 const std::vector<LeaderStatInfo>& LeaderStats();
 
-struct LeaderRow {
+struct LeaderLine {
   int Rank = 0;  // players level on the value share a rank
   int PlayerId = 0;
   std::string Name;
@@ -49,6 +49,6 @@ struct LeaderRow {
 inline constexpr int kLeaderRows = 25;
 
 // `conference` empty: the nation.
-std::vector<LeaderRow> Leaders(Session& session, const std::string& conference, LeaderStat stat);
+std::vector<LeaderLine> Leaders(Session& session, const std::string& conference, LeaderStat stat);
 
 }  // namespace courtmere

@@ -15,14 +15,18 @@
 #include <memory>
 
 #include "app/box_score_screen.h"
+#include "app/bracket_screen.h"
 #include "app/conference_choice_screen.h"
+#include "app/cri_screen.h"
 #include "app/grid_model.h"
 #include "app/inbox_dock.h"
 #include "app/leaders_screen.h"
 #include "app/main_window.h"
 #include "app/nonconf_games_screen.h"
+#include "app/score_ticker.h"
 #include "app/sim_games_screen.h"
 #include "app/team_choice_screen.h"
+#include "app/top25_screen.h"
 #include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
 #include "screens/leaders.h"
@@ -265,16 +269,25 @@ class NewSeasonTest : public QObject {
     QVERIFY(!screen->CoachGame()->isEnabled());
     int days = 0;
     const QString weekFive("Week 5, 2001 - Saturday");
+    bool ticked = false;
     while (screen->WeekCaption()->text() != weekFive) {
       QVERIFY2(screen->SimButton()->isEnabled(), qPrintable(screen->WeekCaption()->text()));
+      // The user keeps his chart clear of the injured and the suspended.
+      SetTeamLineup(*session_, school_.toStdString(), 0);
       screen->SimButton()->click();
       QVERIFY2(!screen->SimButton()->isEnabled(),
                ui_.Messages().empty() ? "no message" : ui_.Messages().back().c_str());
       QVERIFY(screen->Grid()->Model()->rowCount() > 0 || !screen->Notice()->text().isEmpty());
+      ticked = ticked || window_->Ticker()->Lines()->count() > 0;
+      QVERIFY(window_->Ticker()->isHidden());
       screen->NextButton()->click();
       QVERIFY(++days <= 12);
     }
-    QCOMPARE(days, 10);  // 4 days of week 1 and 2 a week in weeks 2 to 4
+    QCOMPARE(days, 10);
+    QVERIFY2(ticked,
+             "the ticker showed the results of the games off the user's list");  // 4 days of week 1
+                                                                                 // and 2 a week in
+                                                                                 // weeks 2 to 4
     QVERIFY(!screen->NextButton()->isEnabled());
     QCOMPARE(screen->Notice()->text(),
              QString("No Games Today\nClick Sim Day to\nAdvance to next week"));
@@ -295,6 +308,28 @@ class NewSeasonTest : public QObject {
     QVERIFY(leaders->Grid()->Model()->Cell(0, 4).text.toInt() >= 5);
   }
 
+  void thePollTheIndexAndThePreseasonBracketsAreShown() {
+    window_->Entry("mnuNationalTop25")->trigger();
+    auto* poll = Find<Top25Screen>(*window_);
+    QVERIFY(poll);
+    QCOMPARE(poll->Grid()->Model()->rowCount(), 25);
+    QVERIFY(!poll->Votes()->text().isEmpty());
+    window_->Entry("mnuNationalCRI")->trigger();
+    auto* index = Find<CriScreen>(*window_);
+    QVERIFY(index);
+    QVERIFY(index->Grid()->Model()->rowCount() >= 25);
+    QCOMPARE(index->Grid()->Model()->Cell(0, 0).text, QString("1"));
+    window_->Entry("mnuSeasonHawaii")->trigger();
+    auto* bracket = Find<BracketScreen>(*window_);
+    QVERIFY(bracket);
+    const BracketView& view = bracket->Canvas()->Bracket();
+    QVERIFY(!view.sections.empty());
+    QCOMPARE(view.sections[0].rounds[0].games.size(), size_t{4});
+    QVERIFY2(!view.champion.empty(), "week 1 is over");
+    QVERIFY(bracket->Canvas()->width() > 3 * 210);
+    Screenshot(window_.get(), "preseason_bracket");
+  }
+
   void aPlayedGameOpensItsBoxScore() {
     auto* screen = Find<SimGamesScreen>(*window_);
     QCOMPARE(screen->WeekCaption()->text(), QString("Week 5, 2001 - Saturday"));
@@ -305,6 +340,22 @@ class NewSeasonTest : public QObject {
     emit screen->Grid()->CellClicked(0, 0);
     Settle();
     QVERIFY(Find<BoxScoreScreen>(*window_));
+  }
+
+  void theAutoSimRunsToWeekFifteen() {
+    QVERIFY(window_->Entry("mnuStartAutoSim")->isEnabled());
+    ui_.QueueAnswer(false);
+    window_->Entry("mnuStartAutoSim")->trigger();
+    QCOMPARE(session_->config.CurrWeek, 6);
+    window_->Entry("mnuStartAutoSim")->trigger();
+    QVERIFY(QString::fromStdString(ui_.Questions().back())
+                .endsWith("So, are you sure you want to start the auto sim?"));
+    QCOMPARE(session_->config.CurrWeek, 15);
+    QCOMPARE(session_->config.CurrDay, std::string("Thursday"));
+    QCOMPARE(window_->windowTitle(), QString("Courtmere (Signing Period)"));
+    QVERIFY(!window_->Entry("mnuStartAutoSim")->isEnabled());
+    QVERIFY(!window_->Entry("mnuStopAutoSim")->isEnabled());
+    QVERIFY(window_->Entry("mnuSeasonSimGames")->isEnabled());
   }
 
  private:

@@ -111,7 +111,7 @@ TEST_F(LeadersTest, ABoardRanksPerGameAndSharesTiedPlaces) {
   const int c = Add(2, 2, 8, 120);   // 15.0
   const int d = Add(1, 2, 4, 100);   // 25.0 in too few games
   Add(4, 1, 10, 400);                // a background team's player
-  const std::vector<LeaderRow> rows = Leaders(session(), "", LeaderStat::kPoints);
+  const std::vector<LeaderLine> rows = Leaders(session(), "", LeaderStat::kPoints);
   ASSERT_EQ(rows.size(), 3u);
   EXPECT_EQ(rows[0].PlayerId, a);
   EXPECT_EQ(rows[0].ValueText, "20.0");
@@ -120,13 +120,13 @@ TEST_F(LeadersTest, ABoardRanksPerGameAndSharesTiedPlaces) {
   EXPECT_EQ(rows[1].Rank, 2);
   EXPECT_EQ(rows[2].Rank, 2) << "a tie shares its place";
   EXPECT_EQ((std::set<int>{rows[1].PlayerId, rows[2].PlayerId}), (std::set<int>{b, c}));
-  for (const LeaderRow& row : rows) EXPECT_NE(row.PlayerId, d);
+  for (const LeaderLine& row : rows) EXPECT_NE(row.PlayerId, d);
 }
 
 TEST_F(LeadersTest, AConferenceBoardKeepsToItsSchools) {
   Add(1, 1, 10, 100);
   Add(3, 1, 10, 300);
-  const std::vector<LeaderRow> rows = Leaders(session(), "Big East", LeaderStat::kPoints);
+  const std::vector<LeaderLine> rows = Leaders(session(), "Big East", LeaderStat::kPoints);
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows[0].School, "St. John's");
 }
@@ -134,7 +134,7 @@ TEST_F(LeadersTest, AConferenceBoardKeepsToItsSchools) {
 TEST_F(LeadersTest, APercentageNeedsItsAttempts) {
   const int few = Add(1, 1, 10, 30, 15, 12);     // 80%, but 1.5 attempts a game
   const int many = Add(1, 2, 10, 100, 100, 45);  // 45%
-  const std::vector<LeaderRow> rows = Leaders(session(), "", LeaderStat::kFieldGoals);
+  const std::vector<LeaderLine> rows = Leaders(session(), "", LeaderStat::kFieldGoals);
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows[0].PlayerId, many);
   EXPECT_EQ(rows[0].ValueText, "45.0");
@@ -148,7 +148,7 @@ TEST_F(LeadersTest, ABoardStopsAtTwentyFiveUnlessThePlaceIsShared) {
     slot = slot % 15 + 1;
     Add(team, slot, 10, i < 24 ? 300 - i : 50);  // places 25 to 30 share 50 points
   }
-  const std::vector<LeaderRow> rows = Leaders(session(), "", LeaderStat::kPoints);
+  const std::vector<LeaderLine> rows = Leaders(session(), "", LeaderStat::kPoints);
   EXPECT_EQ(rows.size(), 30u);
   EXPECT_EQ(rows.back().Rank, 25);
 }
