@@ -3,6 +3,7 @@
 // status 2; the days played before it stay played.
 #include <fmt/format.h>
 
+#include "league/national_tourneys.h"
 #include "season/calendar.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
@@ -125,6 +126,12 @@ void RunSim(CliContext& context, const SimOptions& o) {
   const Config& c = session.config;
   fmt::print("{} day(s) played; now week {}, {}, {}; stage {}\n", played, c.CurrWeek, c.CurrDay,
              c.CurrYear, c.Stage);
+  // A season played to its end names the NCT's champion.
+  if (c.CurrWeek == kSeasonOverWeek) {
+    if (const std::optional<std::string> champion = NctChampion(session.Db())) {
+      fmt::print("NCT champion: {}\n", *champion);
+    }
+  }
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ void PrintGameFile(Session& session, const std::optional<std::filesystem::path>&
                    const std::string& missing) {
   std::ifstream in;
   if (file) in.open(*file);
-  if (!in) {
+  if (!in.is_open()) {
     session.ui.Message(missing);
     throw Refusal{};
   }

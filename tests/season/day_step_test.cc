@@ -12,6 +12,7 @@
 
 #include "engine/run_engine.h"
 #include "season/day_screen.h"
+#include "season/end_season.h"
 #include "season/recruiting_week.h"
 #include "season/schedule_tables.h"
 #include "season_fixture.h"
@@ -230,6 +231,32 @@ TEST_F(DayStep, TheUsersGameHeadsTheListAndTheListKeepsItsResults) {
     EXPECT_TRUE(row.HomePoints.find('-') != std::string::npos) << row.HomePoints;
   }
   EXPECT_EQ(UnplayedOn(store(), 2, "Thursday"), 0);
+}
+
+// End Season: refused before the season is over, nothing on No, and on Yes
+// the season's figures kept, the stage "End Season" and the autosave when
+// the option asks for it.
+TEST_F(DayStep, EndSeasonOnlyOnceTheSeasonIsOver) {
+  const std::string before = DumpStore(store());
+  EXPECT_EQ(EndSeason(run()), SeasonEnd::kRefused);
+  EXPECT_TRUE(DumpStore(store()) == before);
+  GoTo(20, "Monday");
+  ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
+  ui().QueueAnswer(false);
+  const std::string over = DumpStore(store());
+  EXPECT_EQ(EndSeason(run()), SeasonEnd::kDeclined);
+  EXPECT_EQ(ui().Questions().back(), "Do you wish to end this season?");
+  EXPECT_TRUE(DumpStore(store()) == over);
+
+  store().Exec("UPDATE Config SET Autosave = 1 WHERE IdConfig = 0");
+  session().config.Autosave = 1;
+  run().autoSim = true;
+  EXPECT_EQ(EndSeason(run()), SeasonEnd::kEnded);
+  EXPECT_FALSE(run().autoSim);
+  EXPECT_EQ(config().Stage, "End Season");
+  EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "End Season");
+  EXPECT_GT(Count("SELECT count(*) FROM PlayerStats"), 0);
+  EXPECT_TRUE(std::filesystem::exists(session().folder.Path("\\SaveGame\\AutoSave.CMR")));
 }
 
 // The engine fails after a few games of the day, in the user's list or in
