@@ -5,15 +5,15 @@
 namespace courtmere::app {
 
 GridCell GridCell::Text(std::string_view text) {
-  return {QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), {}, false};
+  return {QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), {}, false, {}};
 }
 
 GridCell GridCell::Number(double value, const std::string& text) {
-  return {QString::fromStdString(text), value, true};
+  return {QString::fromStdString(text), value, true, {}};
 }
 
 GridCell GridCell::Whole(int64_t value) {
-  return {QString::number(value), static_cast<qlonglong>(value), true};
+  return {QString::number(value), static_cast<qlonglong>(value), true, {}};
 }
 
 GridModel::GridModel(QStringList headings, QObject* parent)
@@ -48,6 +48,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       return cell.text;
     case Qt::UserRole:
       return cell.sortKey.isNull() ? QVariant(cell.text) : cell.sortKey;
+    case Qt::ForegroundRole:
+      return cell.color.isValid() ? QVariant(cell.color) : QVariant();
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(Qt::AlignVCenter | (cell.number ? Qt::AlignRight : Qt::AlignLeft));
     default:

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 #include <QSortFilterProxyModel>
 #include <QStringList>
 #include <QTableView>
@@ -19,6 +20,7 @@ struct GridCell {
   QString text;
   QVariant sortKey;     // the text itself when null
   bool number = false;  // right-aligned
+  QColor color;         // the text's colour; the view's own when invalid
 
   static GridCell Text(std::string_view text);
   static GridCell Number(double value, const std::string& text);
@@ -26,6 +28,9 @@ struct GridCell {
 };
 
 using GridRow = std::vector<GridCell>;
+
+// The colour of the user's school in the tables that rank schools.
+inline const QColor kUserBlue{0, 0, 205};
 
 class GridModel : public QAbstractTableModel {
   Q_OBJECT

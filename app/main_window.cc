@@ -9,21 +9,35 @@
 
 #include "app/about_dialog.h"
 #include "app/box_score_screen.h"
+#include "app/bracket_screen.h"
+#include "app/conference_choice_screen.h"
+#include "app/cri_screen.h"
 #include "app/game_log_screen.h"
 #include "app/help_screen.h"
 #include "app/inbox_dock.h"
+#include "app/injuries_screen.h"
 #include "app/intro_screen.h"
+#include "app/leaders_screen.h"
 #include "app/manage_roster_screen.h"
 #include "app/menu_tree.h"
+#include "app/nonconf_games_screen.h"
 #include "app/options_dialog.h"
 #include "app/player_card_screen.h"
 #include "app/roster_screen.h"
+#include "app/schedule_screen.h"
+#include "app/score_ticker.h"
+#include "app/standings_screen.h"
 #include "app/team_info_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
+#include "app/top25_screen.h"
 #include "league/clear_dynasty.h"
+#include "league/new_dynasty.h"
+#include "league/start_season.h"
 #include "people/grade_all_players.h"
+#include "season/season_session.h"
 #include "store/saved_games.h"
+#include "store/season_stats.h"
 #include "store/session.h"
 #include "store/store_files.h"
 
@@ -65,7 +79,10 @@ MainWindow::MainWindow(Session& session, QWidget* parent)
     : QMainWindow(parent),
       session_(session),
       area_(new QMdiArea(this)),
-      inbox_(new InboxDock(session, this)) {
+      inbox_(new InboxDock(session, this)),
+      ticker_(new ScoreTicker(
+          [this](const std::string& kind, const std::string& name) { OpenBracket(kind, name); },
+          this)) {
   setObjectName("frmMDI");
   setWindowIcon(Basketball());
   area_->setBackground(Chalkboard());
@@ -77,6 +94,11 @@ MainWindow::MainWindow(Session& session, QWidget* parent)
   RegisterCommands();
   resize(1180, 860);
   ApplyGate(StartUpMenus());
+}
+
+// From here on the screens go down with the window: the intro stays away.
+MainWindow::~MainWindow() {
+  tearingDown_ = true;
 }
 
 // ---------------------------------------------------------------------------
@@ -110,6 +132,7 @@ void MainWindow::BuildMenus() {
 // Every screen and flow behind a menu entry. An entry without a line here
 // stays closed whatever the gate says.
 void MainWindow::RegisterCommands() {
+  On("mnuFileNew", [this] { NewDynasty(); });
   On("mnuFileLoad", [this] { LoadGame(); });
   On("mnuFileSave", [this] { SaveGame(); });
   On("mnuFileSetup", [this] { ShowOptions(); });
@@ -118,9 +141,29 @@ void MainWindow::RegisterCommands() {
   On("mnuManagementRoster", [this] { Show<RosterScreen>(); });
   On("mnuManagementTeamStats", [this] { Show<TeamStatsScreen>(); });
   On("mnuManageRoster", [this] { Show<ManageRosterScreen>(); });
+  On("mnuNonConfPre", [this] { Show<NonConfGamesScreen>(NonConfView::kPreConference); });
+  On("mnuNonConfOther", [this] { Show<NonConfGamesScreen>(NonConfView::kOther); });
+  On("mnuOffSeasonStart", [this] { RunFlow([this] { StartNewSeason(); }); });
+  On("mnuNationalStandings", [this] { Show<StandingsScreen>(Scope::kNational); });
+  On("mnuConferenceStandings", [this] { Show<StandingsScreen>(Scope::kConference); });
+  On("mnuNationalResults", [this] { Show<ScheduleScreen>(Scope::kNational); });
+  On("mnuConferenceSchedule", [this] { Show<ScheduleScreen>(Scope::kConference); });
+  On("mnuNationalLeaders", [this] { Show<LeadersScreen>(Scope::kNational); });
+  On("mnuConferenceLeaders", [this] { Show<LeadersScreen>(Scope::kConference); });
+  On("mnuNationalInjuries", [this] { Show<InjuriesScreen>(Scope::kNational); });
+  On("mnuConferenceInjuries", [this] { Show<InjuriesScreen>(Scope::kConference); });
+  On("mnuNationalTop25", [this] { Show<Top25Screen>(); });
+  On("mnuNationalCRI", [this] { Show<CriScreen>(); });
+  On("mnuPostseasonConf", [this] { Show<BracketScreen>(BracketScreen::Kind::kConference); });
+  On("mnuPostseasonNCT", [this] { Show<BracketScreen>(BracketScreen::Kind::kNct); });
+  On("mnuPostseasonACT", [this] { Show<BracketScreen>(BracketScreen::Kind::kAct); });
+  On("mnuSeasonHawaii", [this] { OpenBracket("Preseason", "Hawaii Classic"); });
+  On("mnuSeasonAlaska", [this] { OpenBracket("Preseason", "Alaska Challenge"); });
+  On("mnuSeasonPreACT", [this] { OpenBracket("Preseason", "Preseason ACT"); });
   On("mnuSeasonViewGameLogs", [this] { Show<GameLogScreen>(); });
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
+  RegisterSeasonCommands();
 }
 
 void MainWindow::On(const char* entry, std::function<void()> command) {
@@ -146,10 +189,17 @@ void MainWindow::RunCommand(std::string_view name) {
   }
 }
 
+// While the auto-sim runs, its stop is the one entry the user may take.
+bool MainWindow::Usable(std::string_view name) const {
+  if (!busy_) return true;
+  return autoSimRunning_ &&
+         (name == "mnuSeason" || name == "mnuSimAll" || name == "mnuStopAutoSim");
+}
+
 void MainWindow::UpdateEntries() {
   for (const auto& [name, action] : entries_) {
     const bool menu = menus_.count(name) != 0;
-    action->setEnabled(!busy_ && gate_.Open(name) && (menu || HasCommand(name)));
+    action->setEnabled(Usable(name) && gate_.Open(name) && (menu || HasCommand(name)));
   }
   if (intro_) intro_->UpdateLabels();
 }
@@ -170,9 +220,16 @@ void MainWindow::ApplyGate(const MenuGateState& state) {
   gate_ = state;
   setWindowTitle(QString::fromStdString(state.title));
   UpdateEntries();
-  ShowIntro(!state.dynasty);
+  UpdateIntro();
   inbox_->setVisible(state.dynasty);
   if (state.dynasty) inbox_->Refresh();
+}
+
+void MainWindow::UpdateIntro() {
+  if (tearingDown_) return;
+  bool setUp = false;
+  for (Screen* screen : Screens()) setUp = setUp || screen->SetsUpDynasty();
+  ShowIntro(!gate_.dynasty && !setUp);
 }
 
 void MainWindow::ShowIntro(bool shown) {
@@ -231,8 +288,14 @@ void MainWindow::Show(Screen* screen) {
   QMdiSubWindow* window = area_->addSubWindow(screen);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowTitle(screen->Caption());
+  if (screen->SetsUpDynasty()) {
+    // Queued: the window is still being taken apart when it reports.
+    connect(
+        window, &QObject::destroyed, this, [this] { UpdateIntro(); }, Qt::QueuedConnection);
+  }
   window->show();
   Place(window, wanted);
+  UpdateIntro();
 }
 
 // A new window goes a step down and right of the last one, back to the top
@@ -286,14 +349,27 @@ void MainWindow::OpenTextFile(const std::filesystem::path& file) {
   Show<TextViewer>(file);
 }
 
+void MainWindow::OpenBracket(const std::string& kind, const std::string& name) {
+  const auto shown =
+      kind == "Preseason" ? BracketScreen::Kind::kPreseason : BracketScreen::Kind::kConference;
+  Show<BracketScreen>(shown, name);
+}
+
+void MainWindow::OpenScreen(Screen* screen) {
+  Show(screen);
+}
+
 void MainWindow::RunFlow(const std::function<void()>& flow) {
   busy_ = true;
   UpdateEntries();
+  ticker_->Clear();
   try {
     flow();
   } catch (const std::exception& e) {
     session_.ui.Message(std::string("The error occured in a flow. ") + e.what());
   }
+  ticker_->hide();
+  session_.ui.HideProgress();
   busy_ = false;
   StoreChanged();
 }
@@ -315,8 +391,10 @@ void MainWindow::StoreChanged() {
 void MainWindow::LoadGame() {
   const auto path = ChooseGameToLoad(session_);
   if (!path) return;
-  CloseScreens();
-  LoadGameFile(session_, *path, GradeAllPlayers);
+  EndSeasonRun();
+  if (LoadGameFile(session_, *path, GradeAllPlayers) == LoadOutcome::kLoaded) {
+    ResumeSeason(session_);
+  }
   StoreChanged();
 }
 
@@ -327,6 +405,23 @@ bool MainWindow::SaveGame() {
   const bool saved = SaveGameFile(session_, *path);
   StoreChanged();
   return saved;
+}
+
+// Until the team choice has set up the league the gate sees no dynasty: a
+// Cancel on either choice screen leaves the menus of File and Help only.
+void MainWindow::NewDynasty() {
+  bool begun = false;
+  RunFlow([&] {
+    EndSeasonRun();
+    begun = BeginNewDynasty(session_);
+  });
+  if (begun) Show<ConferenceChoiceScreen>();
+}
+
+// The season's figures live in memory from the first game on: they start
+// from the store's (empty) table once the season is open.
+void MainWindow::StartNewSeason() {
+  if (StartSeason(session_) == SeasonStart::kStarted) LoadSeasonStats(session_);
 }
 
 void MainWindow::ShowOptions() {

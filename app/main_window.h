@@ -11,12 +11,17 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
 
 #include "app/screen.h"
 #include "store/menu_gate.h"
+
+namespace courtmere {
+struct SeasonRun;
+}
 
 class QAction;
 class QMdiArea;
@@ -26,12 +31,14 @@ namespace courtmere::app {
 
 class InboxDock;
 class IntroScreen;
+class ScoreTicker;
 
 class MainWindow : public QMainWindow, public ScreenHost {
   Q_OBJECT
 
  public:
   explicit MainWindow(Session& session, QWidget* parent = nullptr);
+  ~MainWindow() override;
 
   // An entry's action, a menu's included; null for a name not in the tree.
   QAction* Entry(std::string_view name) const;
@@ -48,6 +55,9 @@ class MainWindow : public QMainWindow, public ScreenHost {
   // The intro screen while it is shown, else null.
   IntroScreen* Intro() const;
   InboxDock* Inbox() const { return inbox_; }
+  ScoreTicker* Ticker() const { return ticker_; }
+  // The season's run of this dynasty: the day screen, the auto-sim flag.
+  SeasonRun& Season();
 
   // File > Load and File > Save; SaveGame answers whether a save was written.
   void LoadGame();
@@ -57,6 +67,10 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void OpenPlayerCard(int playerId) override;
   void OpenBoxScore(const std::filesystem::path& file) override;
   void OpenTextFile(const std::filesystem::path& file) override;
+  void OpenScreen(Screen* screen) override;
+  // A tournament's bracket, as the day step asks for it: kind "Preseason"
+  // with the tournament's name, or "Conference" with the conference's.
+  void OpenBracket(const std::string& kind, const std::string& name);
   void RunFlow(const std::function<void()>& flow) override;
   void StoreChanged() override;
 
@@ -67,10 +81,19 @@ class MainWindow : public QMainWindow, public ScreenHost {
  private:
   void BuildMenus();
   void RegisterCommands();
+  // The entries of the season: Sim Games, the auto-sim, End Season.
+  void RegisterSeasonCommands();
   void On(const char* entry, std::function<void()> command);
   void ApplyGate(const MenuGateState& state);
+  bool Usable(std::string_view name) const;
   void UpdateEntries();
   void ShowIntro(bool shown);
+  // The intro stands while there is no dynasty and no set-up screen is open.
+  void UpdateIntro();
+  // File > New: the store emptied, then the conference choice.
+  void NewDynasty();
+  // Off Season > Start Next Season.
+  void StartNewSeason();
   void CenterIntro();
   // Shows a screen in a window of its own, or brings forward the open screen
   // with the same key (and drops the new one).
@@ -80,6 +103,11 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void Show(Args&&... args) {
     Show(new T(session_, *this, std::forward<Args>(args)...));
   }
+  // Season > Auto Sim > Start AutoSim: the days run on while the user may
+  // still stop the auto-sim from its menu entry.
+  void RunAutoSim();
+  // A new dynasty or a load starts a new run.
+  void EndSeasonRun();
   void ShowOptions();
   void ShowAbout();
   void EndRun();
@@ -87,6 +115,12 @@ class MainWindow : public QMainWindow, public ScreenHost {
   Session& session_;
   QMdiArea* area_;
   InboxDock* inbox_;
+  ScoreTicker* ticker_;
+  // Deleted where the season's run is a complete type (main_window_season.cc).
+  struct SeasonRunDeleter {
+    void operator()(SeasonRun* run) const;
+  };
+  std::unique_ptr<SeasonRun, SeasonRunDeleter> season_;
   QMdiSubWindow* introWindow_ = nullptr;
   IntroScreen* intro_ = nullptr;
   std::map<std::string, QAction*, std::less<>> entries_;
@@ -94,6 +128,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   std::map<std::string, std::function<void()>, std::less<>> commands_;
   MenuGateState gate_;
   bool busy_ = false;
+  bool autoSimRunning_ = false;
+  bool tearingDown_ = false;
 };
 
 }  // namespace courtmere::app

@@ -36,10 +36,10 @@ std::vector<GridRow> RosterGridRows(const std::vector<RosterRow>& roster) {
   for (const RosterRow& p : roster) {
     GridCell position = GridCell::Text(p.PositionName);
     position.sortKey = p.Position;
-    GridRow row = {GridCell::Text(p.Name),     position,
-                   GridCell::Text(p.Year),     HeightCell(p.Height),
-                   GridCell::Whole(p.Overall), GridCell::Text(p.Health),
-                   {StatusOf(p), {}, false}};
+    GridRow row = {GridCell::Text(p.Name),      position,
+                   GridCell::Text(p.Year),      HeightCell(p.Height),
+                   GridCell::Whole(p.Overall),  GridCell::Text(p.Health),
+                   {StatusOf(p), {}, false, {}}};
     for (const std::string& grade : p.Grades) row.push_back(GridCell::Text(grade));
     rows.push_back(std::move(row));
   }

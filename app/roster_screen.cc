@@ -142,7 +142,7 @@ void RosterScreen::ShowChart(const DepthChart& chart) {
   Select(inactive_, chart.inactive);
 }
 
-void RosterScreen::ShowTactics(const Tactics& tactics) {
+void RosterScreen::ShowTactics(const TeamTactics& tactics) {
   SelectText(tactics_[0], tactics.Tempo);
   SelectText(tactics_[1], tactics.OffenseType);
   SelectText(tactics_[2], tactics.Defense);
@@ -156,7 +156,7 @@ DepthChart RosterScreen::ChosenChart() const {
   return chart;
 }
 
-Tactics RosterScreen::ChosenTactics() const {
+TeamTactics RosterScreen::ChosenTactics() const {
   return {ToStdString(tactics_[0]->currentText()), ToStdString(tactics_[1]->currentText()),
           ToStdString(tactics_[2]->currentText()), ToStdString(tactics_[3]->currentText())};
 }

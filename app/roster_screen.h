@@ -25,7 +25,7 @@ class RosterScreen : public Screen {
 
   // What the lists show, as the rules read it.
   DepthChart ChosenChart() const;
-  Tactics ChosenTactics() const;
+  TeamTactics ChosenTactics() const;
   // The chart's list at a place (0 to 14, PG1 .. C3).
   QComboBox* ChartBox(int place) const { return chart_[place]; }
   GridView* Grid() const { return grid_; }
@@ -40,7 +40,7 @@ class RosterScreen : public Screen {
   QWidget* BuildButtons();
   void FillPlayerLists(const std::vector<RosterRow>& roster);
   void ShowChart(const DepthChart& chart);
-  void ShowTactics(const Tactics& tactics);
+  void ShowTactics(const TeamTactics& tactics);
 
   std::string school_;
   GridView* grid_;

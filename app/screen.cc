@@ -1,6 +1,7 @@
 #include "app/screen.h"
 
 #include <QMdiSubWindow>
+#include <QPushButton>
 
 namespace courtmere::app {
 
@@ -10,6 +11,14 @@ Screen::Screen(Session& session, ScreenHost& host, QWidget* parent)
 void Screen::CloseWindow() {
   // The window is deleted once the click that asked for it is over.
   if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) window->close();
+}
+
+QPushButton* Screen::AddButton(const char* name, const QString& text,
+                               std::function<void()> clicked) {
+  auto* button = new QPushButton(text, this);
+  button->setObjectName(name);
+  connect(button, &QPushButton::clicked, this, [clicked = std::move(clicked)] { clicked(); });
+  return button;
 }
 
 QString ToQString(std::string_view text) {

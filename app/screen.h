@@ -5,6 +5,8 @@
 
 #include <QString>
 #include <QWidget>
+
+class QPushButton;
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -16,6 +18,8 @@ struct Session;
 
 namespace courtmere::app {
 
+class Screen;
+
 // The main window's services to its screens.
 class ScreenHost {
  public:
@@ -23,6 +27,8 @@ class ScreenHost {
   virtual void OpenPlayerCard(int playerId) = 0;
   virtual void OpenBoxScore(const std::filesystem::path& file) = 0;
   virtual void OpenTextFile(const std::filesystem::path& file) = 0;
+  // Shows another screen (the host takes it), as a screen's button asks.
+  virtual void OpenScreen(Screen* screen) = 0;
   // Runs a flow that may change the store (the menus closed meanwhile), then
   // brings the menus and every open screen in line with the store.
   virtual void RunFlow(const std::function<void()>& flow) = 0;
@@ -44,10 +50,15 @@ class Screen : public QWidget {
   virtual QString Key() const { return metaObject()->className(); }
   // Reads the store again.
   virtual void Refresh() {}
+  // A screen of the set-up of a new dynasty: while one is open the intro
+  // screen stands aside.
+  virtual bool SetsUpDynasty() const { return false; }
 
  protected:
   // Closes the screen's window (its Close button).
   void CloseWindow();
+  // A button with its object name, its click wired to `clicked`.
+  QPushButton* AddButton(const char* name, const QString& text, std::function<void()> clicked);
 
   Session& session_;
   ScreenHost& host_;

@@ -178,7 +178,7 @@ bool SubmitDepthChart(Session& session, const std::string& school, const DepthCh
   return true;
 }
 
-void SaveTactics(Session& session, const std::string& school, const Tactics& t) {
+void SaveTactics(Session& session, const std::string& school, const TeamTactics& t) {
   session.Db().Exec(
       "UPDATE Team SET Tempo = ?, OffenseType = ?, Defense = ?, Press = ? WHERE SchoolName = ?",
       t.Tempo, t.OffenseType, t.Defense, t.Press, school);

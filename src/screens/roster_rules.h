@@ -38,13 +38,13 @@ std::string DepthChartProblem(const DepthChart& chart);
 // Checks the chart and, when it passes, writes it to the school's row.
 bool SubmitDepthChart(Session& session, const std::string& school, const DepthChart& chart);
 
-struct Tactics {
+struct TeamTactics {
   std::string Tempo;
   std::string OffenseType;
   std::string Defense;
   std::string Press;
 };
-void SaveTactics(Session& session, const std::string& school, const Tactics& tactics);
+void SaveTactics(Session& session, const std::string& school, const TeamTactics& tactics);
 
 // After the user agrees, the computer builds his chart anew.
 bool AutoSetLineup(Session& session, const std::string& school);

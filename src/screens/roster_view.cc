@@ -44,8 +44,8 @@ DepthChart LoadDepthChart(Store& store, const std::string& school) {
   return chart;
 }
 
-Tactics LoadTactics(Store& store, const std::string& school) {
-  Tactics tactics;
+TeamTactics LoadTactics(Store& store, const std::string& school) {
+  TeamTactics tactics;
   Rows r = store.Query("SELECT Tempo, OffenseType, Defense, Press FROM Team WHERE SchoolName = ?",
                        school);
   if (!r.Next()) return tactics;

@@ -47,6 +47,6 @@ std::vector<RosterRow> TeamRoster(Store& store, const std::string& school);
 DepthChart LoadDepthChart(Store& store, const std::string& school);
 
 // The tactics on the school's row; an empty Press reads "None".
-Tactics LoadTactics(Store& store, const std::string& school);
+TeamTactics LoadTactics(Store& store, const std::string& school);
 
 }  // namespace courtmere

@@ -247,7 +247,7 @@ class MenuGateTest : public QObject {
     QCOMPARE(window.Entry("mnuNewsSuspensions")->shortcut(), QKeySequence("Ctrl+A"));
     // An entry whose screen comes later stays closed inside an open menu.
     QVERIFY(window.Entry("mnuNational")->isEnabled());
-    QVERIFY(!window.Entry("mnuNationalTop25")->isEnabled());
+    QVERIFY(!window.Entry("mnuNationalRecords")->isEnabled());
     QVERIFY(window.Entry("mnuManagementInfo")->isEnabled());
     dynasty_->session().quitting = true;
   }

@@ -78,7 +78,7 @@ TEST_F(ScreenDataTest, TheRosterReadsTheChartAndTactics) {
   EXPECT_EQ(chart.ids[0], ids_[0]);
   EXPECT_EQ(chart.ids[14], ids_[1]);
   EXPECT_EQ(chart.inactive, ids_[2]);
-  const Tactics tactics = LoadTactics(store(), "St. John's");
+  const TeamTactics tactics = LoadTactics(store(), "St. John's");
   EXPECT_EQ(tactics.Press, "None") << "a missing press reads None";
   EXPECT_EQ(tactics.Tempo, "Slow Down");
   const std::vector<RosterRow> roster = TeamRoster(store(), "St. John's");

@@ -1,0 +1,209 @@
+#include "app/screenshot_tour.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "app/conference_choice_screen.h"
+#include "app/grid_model.h"
+#include "app/inbox_dock.h"
+#include "app/main_window.h"
+#include "app/sim_games_screen.h"
+#include "app/team_choice_screen.h"
+#include "cpu/computer_roster.h"
+#include "platform/scripted_ui.h"
+#include "store/session.h"
+#include "store/store_files.h"
+
+namespace courtmere::app {
+namespace {
+
+constexpr uint64_t kTourSeed = 2001;
+// Weeks 1 to 3 of the season.
+constexpr int kDaysPlayed = 8;
+// Then on to the week after the first rounds of the NCT.
+constexpr int kLastWeekPlayed = 18;
+// The coach's name shows that the screens keep an apostrophe and an accent.
+constexpr const char* kCoach = "Seán O'Neil";
+
+// The screens of the season, by their menu entries, in the tour's order.
+constexpr const char* kSeasonScreens[][2] = {
+    {"mnuManagementInfo", "team_info"},
+    {"mnuManagementRoster", "roster"},
+    {"mnuManageRoster", "manage_roster"},
+    {"mnuManagementTeamStats", "team_stats"},
+    {"mnuConferenceStandings", "conference_standings"},
+    {"mnuNationalStandings", "national_standings"},
+    {"mnuConferenceSchedule", "schedule"},
+    {"mnuNationalLeaders", "leaders"},
+    {"mnuNationalInjuries", "injuries"},
+    {"mnuSeasonViewGameLogs", "game_logs"},
+    {"mnuNationalTop25", "top25"},
+    {"mnuSeasonHawaii", "preseason_bracket"},
+};
+
+// The screens of the season's end, once the national tournaments have begun.
+constexpr const char* kPostseasonScreens[][2] = {
+    {"mnuNationalCRI", "cri"},
+    {"mnuPostseasonConf", "conference_bracket"},
+    {"mnuPostseasonNCT", "nct_bracket"},
+    {"mnuPostseasonACT", "act_bracket"},
+    {"mnuConferenceStandings", "final_standings"},
+};
+
+class Tour {
+ public:
+  Tour(const std::filesystem::path& folder, const QString& programFolder)
+      : folder_(QString::fromStdString(folder.string())),
+        session_(std::make_unique<Session>(ProgramFolder(programFolder.toStdString()),
+                                           Rng(kTourSeed), ui_)) {
+    QDir().mkpath(folder_);
+    StartUp(*session_);
+    window_ = std::make_unique<MainWindow>(*session_);
+    window_->resize(1280, 900);
+    window_->show();
+    window_->RunGate();
+  }
+  ~Tour() {
+    session_->quitting = true;
+    window_.reset();
+  }
+
+  int Run() {
+    Snap("intro");
+    NewDynasty();
+    ReadFirstLetter();
+    Snap("new_dynasty");
+    Open("mnuNonConfPre", "nonconf_pre");
+    Open("mnuNonConfOther", "nonconf_other");
+    window_->CloseScreens();
+    window_->RunCommand("mnuOffSeasonStart");
+    Snap("season_start");
+    PlayDays();
+    for (const auto& [entry, name] : kSeasonScreens) Open(entry, name);
+    PlayOn();
+    for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
+    return shots_;
+  }
+
+ private:
+  template <class T>
+  T* Find() {
+    for (Screen* screen : window_->Screens()) {
+      if (auto* found = qobject_cast<T*>(screen)) return found;
+    }
+    return nullptr;
+  }
+
+  static void Settle() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+  }
+
+  void Snap(const char* name) {
+    Settle();
+    const QString file = QString("%1/%2_%3.png").arg(folder_).arg(++shots_, 2, 10, QChar('0'));
+    window_->grab().save(file.arg(name));
+  }
+
+  // The first three conferences, then the second conference's third school.
+  void NewDynasty() {
+    window_->RunCommand("mnuFileNew");
+    Settle();
+    auto* leagues = Find<ConferenceChoiceScreen>();
+    if (!leagues) return;
+    for (int row = 0; row < 3; ++row) {
+      leagues->ConferenceList()->setCurrentRow(row);
+      leagues->AddConference();
+    }
+    leagues->SchoolList()->setCurrentRow(1);
+    Snap("conference_choice");
+    leagues->Continue();
+    Settle();
+    auto* teams = Find<TeamChoiceScreen>();
+    if (!teams) return;
+    teams->ConferenceList()->setCurrentRow(1);
+    teams->SchoolList()->setCurrentRow(2);
+    teams->CoachName()->setText(QString::fromUtf8(kCoach));
+    Snap("team_choice");
+    teams->Start();
+  }
+
+  void ReadFirstLetter() {
+    GridView* letters = window_->Inbox()->Grid();
+    if (letters->Model()->rowCount() > 0) emit letters->CellClicked(0, 1);
+  }
+
+  // The user sets his coaches' roles as the computer would,
+  // and the ticker does not wait between games; then Sim Day and Next Day
+  // through the first days of the season.
+  void PlayDays() {
+    SetCoachRoles(*session_, session_->humanSchool);
+    session_->Db().Exec("UPDATE Config SET SimSpeed = 0 WHERE IdConfig = 0");
+    session_->config.SimSpeed = 0;
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    if (!games) return;
+    for (int day = 0; day < kDaysPlayed; ++day) {
+      if (day > 0) games->NextDay();
+      SimDay(*games);
+    }
+    Snap("sim_games");
+    emit games->Grid()->CellClicked(0, 0);
+    Snap("box_score");
+  }
+
+  // The user keeps his depth chart clear of the injured and suspended, as
+  // the computer would set it, before each press of Sim Day.
+  void SimDay(SimGamesScreen& games) {
+    SetTeamLineup(*session_, session_->humanSchool, 0);
+    games.SimDay();
+  }
+
+  // Day after day to the second week of the national tournaments.
+  void PlayOn() {
+    window_->CloseScreens();
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    for (int step = 0; games && session_->config.CurrWeek < kLastWeekPlayed && step < 200; ++step) {
+      if (games->SimButton()->isEnabled()) {
+        SimDay(*games);
+      } else {
+        games->NextDay();
+      }
+    }
+    Snap("sim_games_postseason");
+  }
+
+  // One screen at a time, over the main window with its inbox.
+  void Open(const char* entry, const char* name) {
+    QAction* action = window_->Entry(entry);
+    if (!action || !action->isEnabled()) return;
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand(entry);
+    Snap(name);
+  }
+
+  QString folder_;
+  ScriptedUi ui_;
+  std::unique_ptr<Session> session_;
+  std::unique_ptr<MainWindow> window_;
+  int shots_ = 0;
+};
+
+}  // namespace
+
+int RunScreenshotTour(const std::filesystem::path& folder) {
+  QTemporaryDir program;
+  if (!program.isValid()) return 0;
+  Tour tour(folder, program.path());
+  return tour.Run();
+}
+
+}  // namespace courtmere::app

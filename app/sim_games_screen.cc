@@ -1,0 +1,124 @@
+#include "app/sim_games_screen.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/grid_model.h"
+#include "screens/box_score_view.h"
+#include "season/day_screen.h"
+#include "season/day_step.h"
+#include "season/season_run.h"
+#include "store/session.h"
+
+namespace courtmere::app {
+namespace {
+
+QStringList DayHeadings() {
+  QStringList headings;
+  for (const char* column : kDayColumns) headings << column;
+  return headings;
+}
+
+GridRow Row(const DayRow& r) {
+  auto score = [&r](int points) {
+    return r.Played() ? GridCell::Whole(points) : GridCell::Text("");
+  };
+  return {GridCell::Text(r.HomeShown),  score(r.HomeScore),
+          GridCell::Text(r.AwayShown),  score(r.AwayScore),
+          GridCell::Text(r.HomePoints), GridCell::Text(r.HomeRebounds),
+          GridCell::Text(r.AwayPoints), GridCell::Text(r.AwayRebounds)};
+}
+
+}  // namespace
+
+SimGamesScreen::SimGamesScreen(Session& session, ScreenHost& host, SeasonRun& run, QWidget* parent)
+    : Screen(session, host, parent),
+      run_(run),
+      caption_(new QLabel(this)),
+      grid_(new GridView(new GridModel(DayHeadings(), this), false, this)),
+      notice_(new QLabel(this)),
+      coachGame_(new QCheckBox("Coach this game", this)) {
+  setObjectName("frmSimGames");
+  grid_->setObjectName("grdGames");
+  notice_->setObjectName("lblNoGames");
+  coachGame_->setObjectName("chkCoachGame");
+  // The live game screen is not part of the desktop program yet: the box
+  // shows the option's value but every game is simulated.
+  coachGame_->setEnabled(false);
+  auto* heading = new QLabel("TODAY'S SCHEDULED GAMES", this);
+  heading->setStyleSheet("font-size: 14pt; font-weight: bold;");
+  caption_->setStyleSheet("font-weight: bold;");
+  notice_->setAlignment(Qt::AlignCenter);
+  notice_->setStyleSheet("font-size: 16pt;");
+  grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  grid_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  grid_->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
+  connect(grid_, &GridView::CellClicked, this, [this](int row, int) { OpenBoxScore(row); });
+  prev_ = AddButton("cmdPrev", "Previous Day", [this] { PreviousDay(); });
+  sim_ = AddButton("cmdSim", "Sim Day", [this] { SimDay(); });
+  next_ = AddButton("cmdNext", "Next Day", [this] { NextDay(); });
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(coachGame_);
+  buttons->addStretch();
+  buttons->addWidget(prev_);
+  buttons->addWidget(sim_);
+  buttons->addWidget(next_);
+  buttons->addWidget(AddButton("cmdClose", "Close", [this] { CloseWindow(); }));
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(heading);
+  layout->addWidget(caption_);
+  layout->addWidget(grid_, 1);
+  layout->addWidget(notice_);
+  layout->addLayout(buttons);
+  resize(980, 640);
+  run_.screen = OpenDayScreen(session_);
+  Refresh();
+}
+
+void SimGamesScreen::Refresh() {
+  const DayScreen& day = run_.screen;
+  caption_->setText(ToQString(day.Caption() + " - " + day.shown.day));
+  std::vector<GridRow> rows;
+  for (const DayRow& r : day.rows) rows.push_back(Row(r));
+  grid_->Model()->SetRows(std::move(rows));
+  QStringList notice;
+  for (const std::string& line : day.notice) notice << ToQString(line);
+  notice_->setText(notice.join('\n'));
+  notice_->setVisible(!notice.isEmpty());
+  grid_->setVisible(notice.isEmpty() || !day.rows.empty());
+  coachGame_->setVisible(day.userPlays);
+  coachGame_->setChecked(day.coachGame);
+  sim_->setEnabled(day.simEnabled);
+  next_->setEnabled(day.nextEnabled);
+  prev_->setEnabled(day.prevEnabled);
+}
+
+// The step keeps the screen on the day it played, with its results.
+void SimGamesScreen::SimDay() {
+  sim_->setEnabled(false);
+  host_.RunFlow([this] { courtmere::SimDay(run_); });
+}
+
+void SimGamesScreen::NextDay() {
+  ShowNextDay(session_, run_.screen);
+  Refresh();
+}
+
+void SimGamesScreen::PreviousDay() {
+  ShowPreviousDay(session_, run_.screen);
+  Refresh();
+}
+
+void SimGamesScreen::OpenBoxScore(int row) {
+  const std::vector<DayRow>& rows = run_.screen.rows;
+  if (row < 0 || row >= static_cast<int>(rows.size()) || !rows[row].Played()) return;
+  if (const auto box = BoxScoreFile(session_.Db(), rows[row].GameNo, rows[row].Table)) {
+    host_.OpenBoxScore(*box);
+  }
+}
+
+}  // namespace courtmere::app
