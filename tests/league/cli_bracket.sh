@@ -3,28 +3,8 @@
 # season, and the refusals (status 2, the store unchanged) of a bracket not
 # drawn yet, an unknown conference and an unknown tournament.
 #   cli_bracket.sh <courtmere-cli> <scratch folder>
-set -uo pipefail
-cli=$1
-work=$2
-rm -rf "$work" && mkdir -p "$work"
-trap 'rm -rf "$work"' EXIT
-
-fail() { echo "FAILED: $*" >&2; exit 1; }
-
-# run <status> <args...>: runs the tool, checks its exit status, keeps its
-# output (both streams) in $out.
-run() {
-  local expected=$1
-  shift
-  out=$("$cli" "$@" 2>&1)
-  local status=$?
-  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
-$out"
-}
-expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
-$out"; }
-expect_line() { grep -Eq "$1" <<<"$out" || fail "expected a line like \"$1\" in:
-$out"; }
+source "$(dirname "${BASH_SOURCE[0]}")/../cli_steps.sh" "$@"
+merge_stderr=1
 
 home=(--home "$work/a")
 run 2 "${home[@]}" bracket nct

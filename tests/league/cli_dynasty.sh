@@ -4,30 +4,7 @@
 # standings leave a season ready on Thursday of week 1, and refusals exit
 # with status 2 and change nothing.
 #   cli_dynasty.sh <courtmere-cli> <scratch folder>
-set -uo pipefail
-cli=$1
-work=$2
-rm -rf "$work" && mkdir -p "$work"
-trap 'rm -rf "$work"' EXIT
-
-fail() { echo "FAILED: $*" >&2; exit 1; }
-
-# run <status> <args...>: runs the tool, checks its exit status, keeps its output in $out.
-run() {
-  local expected=$1
-  shift
-  out=$("$cli" "$@" 2>"$work/stderr")
-  local status=$?
-  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
-$out
-$(cat "$work/stderr")"
-}
-
-expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
-$out"; }
-# A line with these words, in order, with any spacing between them.
-expect_line() { grep -Eq "$1" <<<"$out" || fail "expected a line like \"$1\" in:
-$out"; }
+source "$(dirname "${BASH_SOURCE[0]}")/../cli_steps.sh" "$@"
 
 new=(new --conferences "MVC;WAC;Atlantic 10" --school "St. John's" --coach "D'Angelo O'Neil")
 

@@ -3,28 +3,8 @@
 # preseason poll of a started season, and the refusals (status 2, the
 # program's message, nothing changed) for what has not been released.
 #   cli_rankings.sh <courtmere-cli> <scratch folder>
-set -uo pipefail
-cli=$1
-work=$2
-rm -rf "$work" && mkdir -p "$work"
-trap 'rm -rf "$work"' EXIT
-
-fail() { echo "FAILED: $*" >&2; exit 1; }
-
-# run <status> <args...>: runs the tool, checks its exit status, keeps its output in $out.
-run() {
-  local expected=$1
-  shift
-  out=$("$cli" --home "$work/d" "$@" 2>"$work/stderr")
-  local status=$?
-  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
-$out
-$(cat "$work/stderr")"
-}
-expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
-$out"; }
-expect_line() { grep -Eq "$1" <<<"$out" || fail "expected a line like \"$1\" in:
-$out"; }
+source "$(dirname "${BASH_SOURCE[0]}")/../cli_steps.sh" "$@"
+cli_options=(--home "$work/d")
 unchanged() { cmp -s "$work/before.dat" "$work/d/mereball.dat" || fail "$1 changed the store"; }
 
 run 2 poll

@@ -3,27 +3,7 @@
 # load give the dynasty back, and a refused file, a wrong ending or a missing
 # dynasty exit with status 2 and leave the store as it was.
 #   cli_saved_games.sh <courtmere-cli> <scratch folder>
-set -uo pipefail
-cli=$1
-work=$2
-rm -rf "$work" && mkdir -p "$work"
-trap 'rm -rf "$work"' EXIT
-
-fail() { echo "FAILED: $*" >&2; exit 1; }
-
-# run <status> <args...>: runs the tool, checks its exit status, keeps its output in $out.
-run() {
-  local expected=$1
-  shift
-  out=$("$cli" "$@" 2>"$work/stderr")
-  local status=$?
-  [[ $status == "$expected" ]] || fail "courtmere-cli $*: status $status, not $expected
-$out
-$(cat "$work/stderr")"
-}
-
-expect() { [[ $out == *"$1"* ]] || fail "expected \"$1\" in:
-$out"; }
+source "$(dirname "${BASH_SOURCE[0]}")/../cli_steps.sh" "$@"
 
 home=$work/home
 run 0 --home "$home" --seed 1 new --conferences "MVC;WAC;Atlantic 10" --school "St. John's" \
