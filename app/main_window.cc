@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "app/about_dialog.h"
+#include "app/awards_screen.h"
 #include "app/box_score_screen.h"
 #include "app/bracket_screen.h"
 #include "app/conference_choice_screen.h"
@@ -28,6 +29,7 @@
 #include "app/score_ticker.h"
 #include "app/standings_screen.h"
 #include "app/team_info_screen.h"
+#include "app/team_notes_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
 #include "app/top25_screen.h"
@@ -153,6 +155,10 @@ void MainWindow::RegisterCommands() {
   On("mnuNationalInjuries", [this] { Show<InjuriesScreen>(Scope::kNational); });
   On("mnuConferenceInjuries", [this] { Show<InjuriesScreen>(Scope::kConference); });
   On("mnuNationalTop25", [this] { Show<Top25Screen>(); });
+  On("mnuHeadlinePlayer", [this] { Show<AwardsScreen>(AwardsScreen::Kind::kPlayerOfWeek); });
+  On("mnuHeadlinesAllAmerica", [this] { Show<AwardsScreen>(AwardsScreen::Kind::kNational); });
+  On("mnuHeadlineConf", [this] { Show<AwardsScreen>(AwardsScreen::Kind::kConference); });
+  On("mnuNewsTeamNotes", [this] { Show<TeamNotesScreen>(); });
   On("mnuNationalCRI", [this] { Show<CriScreen>(); });
   On("mnuPostseasonConf", [this] { Show<BracketScreen>(BracketScreen::Kind::kConference); });
   On("mnuPostseasonNCT", [this] { Show<BracketScreen>(BracketScreen::Kind::kNct); });

@@ -44,6 +44,8 @@ constexpr const char* kSeasonScreens[][2] = {
     {"mnuNationalInjuries", "injuries"},
     {"mnuSeasonViewGameLogs", "game_logs"},
     {"mnuNationalTop25", "top25"},
+    {"mnuHeadlinePlayer", "player_of_week"},
+    {"mnuNewsTeamNotes", "team_notes"},
     {"mnuSeasonHawaii", "preseason_bracket"},
 };
 
@@ -54,6 +56,8 @@ constexpr const char* kPostseasonScreens[][2] = {
     {"mnuPostseasonNCT", "nct_bracket"},
     {"mnuPostseasonACT", "act_bracket"},
     {"mnuConferenceStandings", "final_standings"},
+    {"mnuHeadlinesAllAmerica", "all_america"},
+    {"mnuHeadlineConf", "conference_awards"},
 };
 
 class Tour {

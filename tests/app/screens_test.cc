@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <memory>
 
+#include "app/awards_screen.h"
 #include "app/box_score_screen.h"
 #include "app/game_log_screen.h"
 #include "app/grid_model.h"
@@ -23,10 +24,13 @@
 #include "app/schedule_screen.h"
 #include "app/standings_screen.h"
 #include "app/team_info_screen.h"
+#include "app/team_notes_screen.h"
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
 #include "app_dynasty.h"
 #include "screenshots.h"
+#include "season/awards.h"
+#include "store/inbox.h"
 
 namespace courtmere::app {
 
@@ -331,6 +335,92 @@ class ScreensTest : public QObject {
     QVERIFY(row >= 0);
     QCOMPARE(Column(injuries->Grid(), 3)[row], QString("Sprained Ankle"));
     QCOMPARE(Column(injuries->Grid(), 4)[row], QString("2"));
+  }
+
+  void theAwardScreensShowTheHonoursPicked() {
+    dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", true);
+    dynasty_->SetCalendar("Season", 2);
+    PickPlayerOfWeek(dynasty_->session());
+    PickConferenceTeam(dynasty_->session(), AppDynasty::kConference, "All");
+    PickNationalTeams(dynasty_->session());
+    const QString weekly = QString::fromStdString(
+        dynasty_->store()
+            .ScalarText("SELECT Player.Name FROM AwardWinners JOIN Player ON Player.Id = "
+                        "AwardWinners.PlayerId WHERE Type = 'week' AND WeekNo = 2")
+            .value_or(""));
+    QVERIFY(!weekly.isEmpty());
+
+    // The national and conference honours wait for the season's last weeks.
+    window_->RunGate();
+    QVERIFY(!window_->Entry("mnuHeadlinesAllAmerica")->isEnabled());
+    dynasty_->SetCalendar("Season", 16);
+    window_->RunGate();
+
+    window_->Entry("mnuHeadlinePlayer")->trigger();
+    auto* week = Find<AwardsScreen>(*window_);
+    QVERIFY(week);
+    QCOMPARE(week->objectName(), QString("frmPlayerWeek"));
+    QCOMPARE(Column(week->Grid(), 0), QStringList{"2"});
+    QCOMPARE(Column(week->Grid(), 1), QStringList{weekly});
+    Screenshot(window_.get(), "player_of_week");
+    emit week->Grid()->CellClicked(0, 1);
+    QVERIFY(Find<PlayerCardScreen>(*window_));
+
+    window_->Entry("mnuHeadlinesAllAmerica")->trigger();
+    AwardsScreen* national = nullptr;
+    for (Screen* screen : window_->Screens()) {
+      if (screen->objectName() == "frmAATeam") national = qobject_cast<AwardsScreen*>(screen);
+    }
+    QVERIFY(national);
+    const QString first = QString::fromStdString(
+        dynasty_->store()
+            .ScalarText("SELECT Player.Name FROM AwardWinners JOIN Player ON Player.Id = "
+                        "AwardWinners.PlayerId WHERE Type = 'FirstAA' ORDER BY WeekNo, "
+                        "AwardWinners.Id LIMIT 1")
+            .value_or(""));
+    QVERIFY(!first.isEmpty());
+    const int team = national->Lists()->findText("First Team", Qt::MatchContains);
+    QVERIFY(team >= 0);
+    national->Lists()->setCurrentIndex(team);
+    QCOMPARE(national->Grid()->Model()->rowCount(), 5);
+    QCOMPARE(Column(national->Grid(), 1).first(), first);
+    Screenshot(window_.get(), "all_america");
+
+    window_->Entry("mnuHeadlineConf")->trigger();
+    AwardsScreen* conference = nullptr;
+    for (Screen* screen : window_->Screens()) {
+      if (screen->objectName() == "frmACTeam") conference = qobject_cast<AwardsScreen*>(screen);
+    }
+    QVERIFY(conference);
+    QCOMPARE(conference->Conferences()->currentText(), QString(AppDynasty::kConference));
+    QVERIFY(conference->Lists()->count() >= 2);
+    QCOMPARE(conference->Grid()->Model()->rowCount(), 5);
+    for (const QString& school : Column(conference->Grid(), 3)) {
+      QVERIFY(school == "St. John's" || school == "Duke" || school == "Clemson" ||
+              school == QString::fromUtf8(AppDynasty::kAccented));
+    }
+  }
+
+  void teamNotesListTheSeasonsLettersNewestFirst() {
+    dynasty_->SetCalendar("Season", 2);
+    BringInboxUpTo(dynasty_->session(), 2);
+    AddInboxMessage(dynasty_->session(), "Athletic Director", "A word from the AD",
+                    "Win at home, coach.");
+    dynasty_->store().Exec("INSERT INTO Messages (Type, Week, Message) VALUES (?, ?, ?)", "Injury",
+                           3, "José Núñez sprained an ankle");
+    dynasty_->SetCalendar("Season", 3);
+    window_->RunGate();
+    window_->Entry("mnuNewsTeamNotes")->trigger();
+    auto* notes = Find<TeamNotesScreen>(*window_);
+    QVERIFY(notes);
+    QCOMPARE(Column(notes->Grid(), 0), (QStringList{"3", "2"}));
+    QCOMPARE(
+        Column(notes->Grid(), 2),
+        (QStringList{QString::fromUtf8("José Núñez sprained an ankle"), "A word from the AD"}));
+    QVERIFY(notes->Text()->toPlainText().isEmpty());
+    emit notes->Grid()->CellClicked(1, 2);
+    QCOMPARE(notes->Text()->toPlainText(), QString("Win at home, coach."));
+    Screenshot(window_.get(), "team_notes");
   }
 
  private:

@@ -5,6 +5,7 @@
 #include "people/league_fixture.h"
 #include "screens/injuries.h"
 #include "screens/leaders.h"
+#include "screens/team_notes.h"
 #include "screens/team_schedule.h"
 #include "store/session.h"
 
@@ -179,6 +180,35 @@ TEST_F(SeasonDisplaysTest, TheInjuryReportListsTheHurtOfTheFirstDivision) {
   const std::vector<InjuryRow> bigEast = Injuries(store(), "Big East");
   ASSERT_EQ(bigEast.size(), 1u);
   EXPECT_EQ(bigEast[0].PlayerId, other);
+}
+
+TEST_F(SeasonDisplaysTest, TeamNotesGatherNotesAndLettersNewestWeekFirst) {
+  store().Exec("INSERT INTO Messages (Type, Week, Message) VALUES (?, ?, ?)", "Team", 1,
+               "Welcome to St. John's.\nThe season starts soon.");
+  store().Exec("INSERT INTO Messages (Type, Week, Message) VALUES (?, ?, ?)", "Injury", 3,
+               "José Núñez sprained an ankle");
+  store().Exec(
+      "INSERT INTO InboxMessage (Week, Year, Sender, Subject, Text) VALUES (?, ?, ?, ?, ?)", 3, 1,
+      "Athletic Director", "Poll", "We are ranked.");
+  store().Exec(
+      "INSERT INTO InboxMessage (Week, Year, Sender, Subject, Text) VALUES (?, ?, ?, ?, ?)", 2, 1,
+      "Scout", "Report", "Duke runs the floor.");
+
+  const std::vector<TeamNote> notes = TeamNotes(store());
+  ASSERT_EQ(notes.size(), 4u);
+  std::vector<std::string> subjects;
+  std::vector<int> weeks;
+  for (const TeamNote& n : notes) {
+    subjects.push_back(n.Subject);
+    weeks.push_back(n.Week);
+  }
+  EXPECT_EQ(weeks, (std::vector<int>{3, 3, 2, 1}));
+  EXPECT_EQ(subjects, (std::vector<std::string>{"José Núñez sprained an ankle", "Poll", "Report",
+                                                "Welcome to St. John's."}));
+  EXPECT_EQ(notes[1].From, "Athletic Director");
+  EXPECT_EQ(notes[1].Text, "We are ranked.");
+  EXPECT_EQ(notes[3].From, "Team");
+  EXPECT_EQ(notes[3].Text, "Welcome to St. John's.\nThe season starts soon.");
 }
 
 }  // namespace
