@@ -29,6 +29,7 @@
 #include "app/top25_screen.h"
 #include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
+#include "screen_probes.h"
 #include "screens/leaders.h"
 #include "screens/nonconf_submit.h"
 #include "screenshots.h"
@@ -38,27 +39,13 @@
 
 namespace courtmere::app {
 
+using testing::Column;
+using testing::Find;
 using testing::Screenshot;
 
 namespace {
 
 constexpr const char* kCoach = "Seán O'Neil";
-
-template <class T>
-T* Find(MainWindow& window) {
-  for (Screen* screen : window.Screens()) {
-    if (auto* found = qobject_cast<T*>(screen)) return found;
-  }
-  return nullptr;
-}
-
-QStringList Column(GridView* grid, int column) {
-  QStringList cells;
-  for (int row = 0; row < grid->Model()->rowCount(); ++row) {
-    cells << grid->Model()->Cell(row, column).text;
-  }
-  return cells;
-}
 
 // Lets closed windows go and queued calls run.
 void Settle() {

@@ -28,6 +28,7 @@
 #include "app/team_stats_screen.h"
 #include "app/text_viewer.h"
 #include "app_dynasty.h"
+#include "screen_probes.h"
 #include "screenshots.h"
 #include "season/awards.h"
 #include "store/inbox.h"
@@ -35,26 +36,11 @@
 namespace courtmere::app {
 
 using testing::AppDynasty;
+using testing::Column;
+using testing::Find;
 using testing::Screenshot;
 
 namespace {
-
-// The first open screen of a class.
-template <class T>
-T* Find(MainWindow& window) {
-  for (Screen* screen : window.Screens()) {
-    if (auto* found = qobject_cast<T*>(screen)) return found;
-  }
-  return nullptr;
-}
-
-QStringList Column(GridView* grid, int column) {
-  QStringList cells;
-  for (int row = 0; row < grid->Model()->rowCount(); ++row) {
-    cells << grid->Model()->Cell(row, column).text;
-  }
-  return cells;
-}
 
 QString Title(Screen* screen) {
   return qobject_cast<QMdiSubWindow*>(screen->parentWidget())->windowTitle();

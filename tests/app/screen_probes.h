@@ -1,0 +1,29 @@
+// What the window tests read from open screens: the first screen of a class,
+// and the texts of a grid's column.
+#pragma once
+
+#include <QStringList>
+
+#include "app/grid_model.h"
+#include "app/main_window.h"
+
+namespace courtmere::testing {
+
+// The first open screen of a class.
+template <class T>
+T* Find(app::MainWindow& window) {
+  for (app::Screen* screen : window.Screens()) {
+    if (auto* found = qobject_cast<T*>(screen)) return found;
+  }
+  return nullptr;
+}
+
+inline QStringList Column(app::GridView* grid, int column) {
+  QStringList cells;
+  for (int row = 0; row < grid->Model()->rowCount(); ++row) {
+    cells << grid->Model()->Cell(row, column).text;
+  }
+  return cells;
+}
+
+}  // namespace courtmere::testing
