@@ -25,8 +25,16 @@ const char* ObjectName(AwardsScreen::Kind kind) {
   return "frmAATeam";
 }
 
-QString Fixed1(double value) {
-  return QString::number(value, 'f', 1);
+GridCell Fixed1(double value) {
+  return GridCell::Number(value, QString::number(value, 'f', 1).toStdString());
+}
+
+// The week of a player of the week stands first; the teams are read by
+// position, the figures in the order the honours keep them.
+QStringList Headings(AwardsScreen::Kind kind) {
+  QStringList headings = {"Pos", "Player", "School", "PPG", "APG", "RPG", "SPG", "TOPG", "BPG"};
+  if (kind == AwardsScreen::Kind::kPlayerOfWeek) headings.prepend("Week");
+  return headings;
 }
 
 }  // namespace
@@ -35,18 +43,18 @@ AwardsScreen::AwardsScreen(Session& session, ScreenHost& host, Kind kind, QWidge
     : Screen(session, host, parent),
       kind_(kind),
       lists_(new QComboBox(this)),
-      grid_(new GridView(new GridModel({kind == Kind::kPlayerOfWeek ? "Week" : "No.", "Player",
-                                        "Pos", "School", "PPG", "RPG", "APG", "SPG", "BPG"},
-                                       this),
-                         false, this)) {
+      grid_(new GridView(new GridModel(Headings(kind), this), false, this)) {
   setObjectName(ObjectName(kind));
   lists_->setObjectName("cmbAward");
   grid_->setObjectName("grdAward");
   grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+  grid_->horizontalHeader()->setSectionResizeMode(PlayerColumn(), QHeaderView::Stretch);
   connect(lists_, &QComboBox::currentIndexChanged, this, [this] { ShowList(); });
   connect(grid_, &GridView::CellClicked, this, [this](int row, int column) {
-    if (column == 1) host_.OpenPlayerCard(grid_->Model()->Key(row));
+    if (column == PlayerColumn()) host_.OpenPlayerCard(grid_->Model()->Key(row));
+    if (column == PlayerColumn() + 1) {
+      host_.OpenTeam(ToStdString(grid_->Model()->Cell(row, column).text));
+    }
   });
   auto* choices = new QHBoxLayout;
   if (kind_ == Kind::kConference) {
@@ -60,6 +68,10 @@ AwardsScreen::AwardsScreen(Session& session, ScreenHost& host, Kind kind, QWidge
   layout->addWidget(grid_, 1);
   resize(760, 600);
   Refresh();
+}
+
+int AwardsScreen::PlayerColumn() const {
+  return kind_ == Kind::kPlayerOfWeek ? 2 : 1;
 }
 
 QString AwardsScreen::Caption() const {
@@ -106,15 +118,16 @@ void AwardsScreen::ShowList() {
   const int index = lists_->currentIndex();
   if (index >= 0 && index < static_cast<int>(shown_.size())) {
     for (const AwardRow& r : shown_[index].Rows) {
-      GridRow row = {GridCell::Whole(r.WeekNo),
+      GridRow row = {GridCell::Text(r.Position),
                      GridCell::Text(r.Name),
-                     GridCell::Text(r.Position),
                      GridCell::Text(r.Team),
-                     GridCell::Number(r.PPG, Fixed1(r.PPG).toStdString()),
-                     GridCell::Number(r.RPG, Fixed1(r.RPG).toStdString()),
-                     GridCell::Number(r.APG, Fixed1(r.APG).toStdString()),
-                     GridCell::Number(r.SPG, Fixed1(r.SPG).toStdString()),
-                     GridCell::Number(r.BPG, Fixed1(r.BPG).toStdString())};
+                     Fixed1(r.PPG),
+                     Fixed1(r.APG),
+                     Fixed1(r.RPG),
+                     Fixed1(r.SPG),
+                     Fixed1(r.TOPG),
+                     Fixed1(r.BPG)};
+      if (kind_ == Kind::kPlayerOfWeek) row.insert(row.begin(), GridCell::Whole(r.WeekNo));
       if (r.User) {
         for (GridCell& cell : row) cell.color = kUserBlue;
       }

@@ -33,6 +33,8 @@ class AwardsScreen : public Screen {
 
  private:
   void ShowList();
+  // The column of the player's name; the school's stands after it.
+  int PlayerColumn() const;
 
   Kind kind_;
   QComboBox* conferences_ = nullptr;  // only on the conference screen

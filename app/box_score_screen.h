@@ -1,7 +1,10 @@
-// frmBoxScore: both teams' lines of a played game, read from its box file.
-// A click on a player's name opens his card.
+// frmBoxScore: both teams' lines of a played game, read from its box file:
+// a table a side, the starters first, the men who did not play marked DNP,
+// the team's totals at the foot. A click on a player's name opens his card,
+// a click on a school's name its Team Info.
 #pragma once
 
+#include <array>
 #include <filesystem>
 
 #include "app/screen.h"
@@ -30,10 +33,12 @@ class BoxScoreScreen : public Screen {
 
  private:
   GridView* AddSide(const QString& name, QLabel*& heading);
-  void NameClicked(const std::string& school, GridView* grid, int row, int column);
+  static void FitTable(GridView* grid);
+  void FitToScreen(QWidget& page);
+  void NameClicked(size_t side, int row, int column);
 
   std::filesystem::path file_;
-  BoxScoreHeader header_;
+  std::array<BoxTable, 2> tables_;
   QLabel* homeHeading_ = nullptr;
   QLabel* awayHeading_ = nullptr;
   GridView* homeGrid_;

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -14,13 +15,18 @@ namespace courtmere::app {
 namespace {
 
 constexpr int kMargin = 16;
-constexpr int kBoxWidth = 210;
-constexpr int kColumnGap = 40;
+// A column is as wide as the window allows between these two; below the
+// narrowest the picture scrolls.
+constexpr int kNarrowestBox = 160;
+constexpr int kWidestBox = 230;
+constexpr int kColumnGap = 32;
 constexpr int kLine = 18;               // one side of a game
 constexpr int kGameHeight = 3 * kLine;  // two sides and the site
 constexpr int kGameGap = 14;
+constexpr int kRowHeight = kGameHeight + kGameGap;
 constexpr int kRoundHeading = 2 * kLine;
 constexpr int kSectionHeading = 26;
+const QColor kConnectorColor(120, 120, 120);
 
 QString SideText(const BracketSide& side) {
   if (side.school.empty()) return ToQString(side.pairing);
@@ -43,12 +49,12 @@ void DrawSide(QPainter& paint, const QRect& line, const BracketSide& side) {
   paint.setFont(font);
 }
 
-void DrawGame(QPainter& paint, const QPoint& at, const BracketMatch& game) {
-  const QRect home(at.x(), at.y(), kBoxWidth, kLine);
-  const QRect away(at.x(), at.y() + kLine, kBoxWidth, kLine);
+void DrawGame(QPainter& paint, const QRect& box, const BracketMatch& game) {
+  const QRect home(box.x(), box.y(), box.width(), kLine);
+  const QRect away(box.x(), box.y() + kLine, box.width(), kLine);
   paint.setPen(QColor(120, 120, 120));
   paint.setBrush(QColor(252, 252, 246));
-  paint.drawRect(home.united(away));
+  paint.drawRect(box);
   paint.drawLine(away.topLeft(), away.topRight());
   paint.setPen(Qt::black);
   DrawSide(paint, home, game.home);
@@ -58,25 +64,19 @@ void DrawGame(QPainter& paint, const QPoint& at, const BracketMatch& game) {
     font.setItalic(true);
     paint.setFont(font);
     paint.setPen(QColor(90, 90, 90));
-    paint.drawText(QRect(at.x(), at.y() + 2 * kLine, kBoxWidth, kLine),
-                   Qt::AlignVCenter | Qt::AlignLeft, ToQString(game.site));
+    const QRect site(box.x(), box.bottom() + 1, box.width(), kLine);
+    paint.drawText(
+        site, Qt::AlignVCenter | Qt::AlignLeft,
+        paint.fontMetrics().elidedText(ToQString(game.site), Qt::ElideRight, site.width()));
     font.setItalic(false);
     paint.setFont(font);
     paint.setPen(Qt::black);
   }
 }
 
-// The top of game `i` of a round of `count` games: the games share the
-// section's height evenly, so a round of half as many games stands between
-// the pairs it follows.
-int GameTop(int top, int height, int i, int count) {
-  const double slot = static_cast<double>(height) / count;
-  return top + static_cast<int>(slot * (i + 0.5)) - kLine;
-}
-
-size_t MostGames(const BracketSection& section) {
+size_t MostRounds(const BracketView& view) {
   size_t most = 1;
-  for (const BracketRound& round : section.rounds) most = std::max(most, round.games.size());
+  for (const BracketSection& section : view.sections) most = std::max(most, section.rounds.size());
   return most;
 }
 
@@ -92,32 +92,89 @@ BracketCanvas::BracketCanvas(QWidget* parent) : QWidget(parent) {
 
 void BracketCanvas::SetBracket(BracketView view) {
   view_ = std::move(view);
-  setMinimumSize(sizeHint());
-  resize(sizeHint());
+  layouts_.clear();
+  for (const BracketSection& section : view_.sections) layouts_.push_back(LayOut(section));
+  setMinimumSize(minimumSizeHint());
+  updateGeometry();
   update();
 }
 
-int BracketCanvas::SectionHeight(const BracketSection& section) const {
-  return kSectionHeading + kRoundHeading +
-         static_cast<int>(MostGames(section)) * (kGameHeight + kGameGap);
+int BracketCanvas::SectionHeight(size_t section) const {
+  return kSectionHeading + kRoundHeading + layouts_[section].rowCount * kRowHeight;
+}
+
+int BracketCanvas::SectionTop(size_t section) const {
+  int top = kMargin;
+  for (size_t s = 0; s < section; ++s) top += SectionHeight(s);
+  return top;
+}
+
+int BracketCanvas::Height() const {
+  return SectionTop(layouts_.size()) + kSectionHeading + kMargin;  // the champion's line
+}
+
+int BracketCanvas::WidthFor(int box) const {
+  const int rounds = static_cast<int>(MostRounds(view_));
+  return 2 * kMargin + rounds * box + (rounds - 1) * kColumnGap;
+}
+
+QSize BracketCanvas::minimumSizeHint() const {
+  return {WidthFor(kNarrowestBox), Height()};
 }
 
 QSize BracketCanvas::sizeHint() const {
-  size_t rounds = 1;
-  int height = 2 * kMargin + kSectionHeading;  // the champion's line
-  for (const BracketSection& section : view_.sections) {
-    rounds = std::max(rounds, section.rounds.size());
-    height += SectionHeight(section);
+  return {WidthFor(kWidestBox), Height()};
+}
+
+int BracketCanvas::BoxWidth() const {
+  const int rounds = static_cast<int>(MostRounds(view_));
+  const int fits = (width() - 2 * kMargin - (rounds - 1) * kColumnGap) / rounds;
+  return std::clamp(fits, kNarrowestBox, kWidestBox);
+}
+
+QRect BracketCanvas::GameBox(int section, int round, int game) const {
+  const auto s = static_cast<size_t>(section);
+  const double row = layouts_[s].rows[static_cast<size_t>(round)][static_cast<size_t>(game)];
+  const int top =
+      SectionTop(s) + kSectionHeading + kRoundHeading + static_cast<int>(row * kRowHeight);
+  return {kMargin + round * (BoxWidth() + kColumnGap), top, BoxWidth(), 2 * kLine};
+}
+
+QPolygon BracketCanvas::ConnectorPath(int section, const BracketConnector& c) const {
+  const QRect from = GameBox(section, c.fromRound, c.fromGame);
+  const QRect to = GameBox(section, c.toRound, c.toGame);
+  const QPoint start(from.right() + 1, from.top() + kLine);
+  const QPoint end(to.left(), to.top() + (c.toHome ? kLine / 2 : kLine + kLine / 2));
+  const int middle = start.x() + kColumnGap / 2;
+  return QPolygon({start, {middle, start.y()}, {middle, end.y()}, end});
+}
+
+std::string BracketCanvas::SchoolAt(const QPoint& point) const {
+  for (size_t s = 0; s < view_.sections.size(); ++s) {
+    const std::vector<BracketRound>& rounds = view_.sections[s].rounds;
+    for (size_t r = 0; r < rounds.size(); ++r) {
+      for (size_t g = 0; g < rounds[r].games.size(); ++g) {
+        const QRect box = GameBox(static_cast<int>(s), static_cast<int>(r), static_cast<int>(g));
+        if (!box.contains(point)) continue;
+        const BracketMatch& game = rounds[r].games[g];
+        return point.y() < box.top() + kLine ? game.home.school : game.away.school;
+      }
+    }
   }
-  const int width = 2 * kMargin + static_cast<int>(rounds) * (kBoxWidth + kColumnGap);
-  return {width, height};
+  return {};
+}
+
+void BracketCanvas::mousePressEvent(QMouseEvent* event) {
+  const std::string school = SchoolAt(event->position().toPoint());
+  if (!school.empty()) emit SchoolClicked(school);
 }
 
 void BracketCanvas::paintEvent(QPaintEvent*) {
   QPainter paint(this);
   paint.setRenderHint(QPainter::Antialiasing, false);
-  int top = kMargin;
-  for (const BracketSection& section : view_.sections) {
+  for (size_t s = 0; s < view_.sections.size(); ++s) {
+    const BracketSection& section = view_.sections[s];
+    const int top = SectionTop(s);
     QFont font = paint.font();
     font.setBold(true);
     paint.setFont(font);
@@ -125,40 +182,30 @@ void BracketCanvas::paintEvent(QPaintEvent*) {
                    ToQString(section.title));
     font.setBold(false);
     paint.setFont(font);
-    const int gamesTop = top + kSectionHeading + kRoundHeading;
-    const int gamesHeight = SectionHeight(section) - kSectionHeading - kRoundHeading;
+    paint.setPen(kConnectorColor);
+    for (const BracketConnector& c : section.connectors) {
+      paint.drawPolyline(ConnectorPath(static_cast<int>(s), c));
+    }
+    paint.setPen(Qt::black);
     for (size_t r = 0; r < section.rounds.size(); ++r) {
       const BracketRound& round = section.rounds[r];
-      const int x = kMargin + static_cast<int>(r) * (kBoxWidth + kColumnGap);
-      paint.drawText(QRect(x, top + kSectionHeading, kBoxWidth, kRoundHeading),
+      const int x = kMargin + static_cast<int>(r) * (BoxWidth() + kColumnGap);
+      paint.drawText(QRect(x, top + kSectionHeading, BoxWidth() + kColumnGap, kRoundHeading),
                      Qt::AlignLeft | Qt::AlignVCenter,
                      ToQString(round.title) + "\n" + ToQString(round.when));
-      const int count = static_cast<int>(round.games.size());
-      const bool halves = r + 1 < section.rounds.size() &&
-                          2 * section.rounds[r + 1].games.size() == round.games.size();
-      for (int i = 0; i < count; ++i) {
-        const int y = GameTop(gamesTop, gamesHeight, i, count);
-        DrawGame(paint, QPoint(x, y), round.games[i]);
-        if (!halves) continue;
-        // The winners of games 2k and 2k+1 meet in game k of the next round.
-        const int next = GameTop(gamesTop, gamesHeight, i / 2, count / 2) + kLine;
-        const int middle = x + kBoxWidth + kColumnGap / 2;
-        paint.setPen(QColor(120, 120, 120));
-        paint.drawLine(x + kBoxWidth, y + kLine, middle, y + kLine);
-        paint.drawLine(middle, y + kLine, middle, next);
-        paint.drawLine(middle, next, x + kBoxWidth + kColumnGap, next);
-        paint.setPen(Qt::black);
+      for (size_t g = 0; g < round.games.size(); ++g) {
+        DrawGame(paint, GameBox(static_cast<int>(s), static_cast<int>(r), static_cast<int>(g)),
+                 round.games[g]);
       }
     }
-    top += SectionHeight(section);
   }
   if (!view_.champion.empty()) {
     QFont font = paint.font();
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * 1.3);
     paint.setFont(font);
-    paint.drawText(QRect(kMargin, top, width(), kSectionHeading), Qt::AlignLeft | Qt::AlignVCenter,
-                   "Champion: " + ToQString(view_.champion));
+    paint.drawText(QRect(kMargin, SectionTop(layouts_.size()), width(), kSectionHeading),
+                   Qt::AlignLeft | Qt::AlignVCenter, "Champion: " + ToQString(view_.champion));
   }
 }
 
@@ -173,7 +220,10 @@ BracketScreen::BracketScreen(Session& session, ScreenHost& host, Kind kind, std:
   setObjectName("frmBracket");
   title_->setStyleSheet("font-size: 14pt; font-weight: bold;");
   title_->setWordWrap(true);
+  // The columns widen with the window and the picture scrolls only when
+  // even the narrowest columns do not fit.
   auto* scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
   scroll->setWidget(canvas_);
   auto* layout = new QVBoxLayout(this);
   if (kind_ == Kind::kConference) {
@@ -185,6 +235,8 @@ BracketScreen::BracketScreen(Session& session, ScreenHost& host, Kind kind, std:
   layout->addWidget(title_);
   layout->addWidget(empty_);
   layout->addWidget(scroll, 1);
+  connect(canvas_, &BracketCanvas::SchoolClicked, this,
+          [this](const std::string& school) { host_.OpenTeam(school); });
   resize(kind_ == Kind::kNct || kind_ == Kind::kAct ? 1120 : 900, 720);
   Refresh();
 }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/screen.h"
 #include "screens/bracket_view.h"
@@ -14,7 +15,9 @@ class QLabel;
 
 namespace courtmere::app {
 
-// The picture of a bracket; its size follows the number of rounds and games.
+// The picture of a bracket: each section's games where its layout puts
+// them, and a connector from each game to the side its winner takes next.
+// Its height follows the games; its columns widen with the window.
 class BracketCanvas : public QWidget {
   Q_OBJECT
 
@@ -24,14 +27,33 @@ class BracketCanvas : public QWidget {
   void SetBracket(BracketView view);
   const BracketView& Bracket() const { return view_; }
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+  // Where a game's two sides are drawn (its site stands below).
+  QRect GameBox(int section, int round, int game) const;
+  // The line of a connector: from the middle of the right edge of the game
+  // it leaves to the side it feeds.
+  QPolygon ConnectorPath(int section, const BracketConnector& connector) const;
+  // The school drawn at a point; empty off the names.
+  std::string SchoolAt(const QPoint& point) const;
+
+ signals:
+  // A click on a school's name.
+  void SchoolClicked(const std::string& school);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  int SectionHeight(const BracketSection& section) const;
+  int SectionHeight(size_t section) const;
+  int SectionTop(size_t section) const;
+  int Height() const;
+  int WidthFor(int box) const;
+  int BoxWidth() const;
 
   BracketView view_;
+  std::vector<BracketLayout> layouts_;  // one a section
 };
 
 class BracketScreen : public Screen {

@@ -1,6 +1,9 @@
 #include "app/grid_model.h"
 
+#include <QFont>
 #include <QHeaderView>
+
+#include "screens/heading_notes.h"
 
 namespace courtmere::app {
 
@@ -24,6 +27,12 @@ void GridModel::SetRows(std::vector<GridRow> rows, std::vector<int> keys) {
   rows_ = std::move(rows);
   keys_ = std::move(keys);
   endResetModel();
+}
+
+void GridModel::SetHeading(int column, const QString& heading) {
+  if (column < 0 || column >= headings_.size() || headings_[column] == heading) return;
+  headings_[column] = heading;
+  emit headerDataChanged(Qt::Horizontal, column, column);
 }
 
 int GridModel::Key(int row) const {
@@ -50,6 +59,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       return cell.sortKey.isNull() ? QVariant(cell.text) : cell.sortKey;
     case Qt::ForegroundRole:
       return cell.color.isValid() ? QVariant(cell.color) : QVariant();
+    case Qt::FontRole: {
+      if (!cell.bold) return {};
+      QFont font;
+      font.setBold(true);
+      return font;
+    }
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(Qt::AlignVCenter | (cell.number ? Qt::AlignRight : Qt::AlignLeft));
     default:
@@ -58,8 +73,13 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
-  return section < headings_.size() ? QVariant(headings_[section]) : QVariant();
+  if (orientation != Qt::Horizontal || section >= headings_.size()) return {};
+  if (role == Qt::DisplayRole) return headings_[section];
+  if (role == Qt::ToolTipRole) {
+    const std::string_view note = HeadingNote(headings_[section].toStdString());
+    return note.empty() ? QVariant() : QVariant(QString::fromUtf8(note.data(), note.size()));
+  }
+  return {};
 }
 
 GridView::GridView(GridModel* model, bool sortable, QWidget* parent)

@@ -1,7 +1,8 @@
 // The data behind every grid of the program: column headings and rows of
 // cells, each cell with the text it shows and the value it sorts by, and a
 // key per row (a player's Id, a game's number) for the screen that acts on a
-// click.
+// click. A heading the program has a note for (a rating, a statistic)
+// explains itself in a tooltip.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -21,6 +22,7 @@ struct GridCell {
   QVariant sortKey;     // the text itself when null
   bool number = false;  // right-aligned
   QColor color;         // the text's colour; the view's own when invalid
+  bool bold = false;    // a total, a line that stands out
 
   static GridCell Text(std::string_view text);
   static GridCell Number(double value, const std::string& text);
@@ -41,6 +43,7 @@ class GridModel : public QAbstractTableModel {
   // Replaces every row; `keys` holds one key per row (or is empty).
   void SetRows(std::vector<GridRow> rows, std::vector<int> keys = {});
   int Key(int row) const;
+  void SetHeading(int column, const QString& heading);
   const GridCell& Cell(int row, int column) const { return rows_[row][column]; }
 
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;

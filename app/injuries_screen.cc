@@ -22,6 +22,7 @@ InjuriesScreen::InjuriesScreen(Session& session, ScreenHost& host, Scope scope, 
   grid_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   connect(grid_, &GridView::CellClicked, this, [this](int row, int column) {
     if (column == 0) host_.OpenPlayerCard(grid_->Model()->Key(row));
+    if (column == 2) host_.OpenTeam(ToStdString(grid_->Model()->Cell(row, 2).text));
   });
   auto* layout = new QVBoxLayout(this);
   if (scope_ == Scope::kConference) {

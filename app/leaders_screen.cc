@@ -15,8 +15,8 @@ LeadersScreen::LeadersScreen(Session& session, ScreenHost& host, Scope scope, QW
     : Screen(session, host, parent),
       scope_(scope),
       stats_(new QComboBox(this)),
-      grid_(new GridView(new GridModel({"Rank", "Player", "Pos", "School", "G", "Value"}, this),
-                         true, this)) {
+      grid_(new GridView(new GridModel({"Rank", "Player", "Pos", "School", "G", "PPG"}, this), true,
+                         this)) {
   setObjectName("frmLeaderBoard");
   stats_->setObjectName("cmbStat");
   grid_->setObjectName("grdLeaders");
@@ -26,6 +26,7 @@ LeadersScreen::LeadersScreen(Session& session, ScreenHost& host, Scope scope, QW
   connect(stats_, &QComboBox::currentIndexChanged, this, [this] { Refresh(); });
   connect(grid_, &GridView::CellClicked, this, [this](int row, int column) {
     if (column == 1) host_.OpenPlayerCard(grid_->Model()->Key(row));
+    if (column == 3) host_.OpenTeam(ToStdString(grid_->Model()->Cell(row, 3).text));
   });
   auto* choices = new QHBoxLayout;
   if (scope_ == Scope::kConference) {
@@ -46,7 +47,9 @@ QString LeadersScreen::Caption() const {
 }
 
 void LeadersScreen::Refresh() {
-  const LeaderStat stat = LeaderStats().at(stats_->currentIndex()).Stat;
+  const LeaderStatInfo& info = LeaderStats().at(stats_->currentIndex());
+  const LeaderStat stat = info.Stat;
+  grid_->Model()->SetHeading(5, info.Column);
   const std::string conference = conferences_ ? ToStdString(conferences_->currentText()) : "";
   std::vector<GridRow> rows;
   std::vector<int> ids;

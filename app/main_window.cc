@@ -343,6 +343,10 @@ void MainWindow::CloseScreens() {
   intro_ = nullptr;
 }
 
+void MainWindow::OpenTeam(const std::string& school) {
+  if (!school.empty()) Show<TeamInfoScreen>(school);
+}
+
 void MainWindow::OpenPlayerCard(int playerId) {
   Show<PlayerCardScreen>(playerId);
 }

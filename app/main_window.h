@@ -65,6 +65,7 @@ class MainWindow : public QMainWindow, public ScreenHost {
 
   // ScreenHost
   void OpenPlayerCard(int playerId) override;
+  void OpenTeam(const std::string& school) override;
   void OpenBoxScore(const std::filesystem::path& file) override;
   void OpenTextFile(const std::filesystem::path& file) override;
   void OpenScreen(Screen* screen) override;

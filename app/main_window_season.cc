@@ -7,6 +7,7 @@
 #include "season/auto_sim.h"
 #include "season/end_season.h"
 #include "season/season_run.h"
+#include "store/session.h"
 
 namespace courtmere::app {
 
@@ -19,6 +20,7 @@ SeasonRun& MainWindow::Season() {
     season_.reset(new SeasonRun(session_));
     season_->observer = ticker_;
   }
+  ticker_->SetUserSchool(session_.humanSchool);
   return *season_;
 }
 
@@ -36,7 +38,9 @@ void MainWindow::RegisterSeasonCommands() {
 
 void MainWindow::RunAutoSim() {
   autoSimRunning_ = true;
+  ticker_->SetAutoSim(true);
   RunFlow([this] { StartAutoSim(Season()); });
+  ticker_->SetAutoSim(false);
   autoSimRunning_ = false;
   UpdateEntries();
 }

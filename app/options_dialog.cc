@@ -25,9 +25,14 @@ OptionsDialog::OptionsDialog(Session& session, QWidget* parent)
   autosave_->setObjectName("chkSave");
   boxScores_->setObjectName("chkBox");
   speed_->setObjectName("cmbSpeed");
-  for (int speed = kSlowestTicker; speed <= kFastestTicker; ++speed) {
-    speed_->addItem(QString::number(speed), speed);
+  // Design decision: 0 is offered as "0 - no pause" beside 1 to 10, for a
+  // player who wants only the results; the heading stays the program's own.
+  for (int pause = kNoTickerPause; pause <= kLongestTickerPause; ++pause) {
+    speed_->addItem(pause == kNoTickerPause ? QString("0 - no pause") : QString::number(pause),
+                    pause);
   }
+  speed_->setToolTip(
+      "The pause after each game of a batch on the score ticker, in tenths of a second");
 
   const Options current = CurrentOptions(session_);
   playByPlay_->setChecked(current.PlayByPlay == 1);

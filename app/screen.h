@@ -25,6 +25,8 @@ class ScreenHost {
  public:
   virtual ~ScreenHost() = default;
   virtual void OpenPlayerCard(int playerId) = 0;
+  // The school's page (Team Info), from its name wherever it is shown.
+  virtual void OpenTeam(const std::string& school) = 0;
   virtual void OpenBoxScore(const std::filesystem::path& file) = 0;
   virtual void OpenTextFile(const std::filesystem::path& file) = 0;
   // Shows another screen (the host takes it), as a screen's button asks.

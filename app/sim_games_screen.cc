@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "app/grid_model.h"
@@ -61,6 +62,15 @@ SimGamesScreen::SimGamesScreen(Session& session, ScreenHost& host, SeasonRun& ru
   prev_ = AddButton("cmdPrev", "Previous Day", [this] { PreviousDay(); });
   sim_ = AddButton("cmdSim", "Sim Day", [this] { SimDay(); });
   next_ = AddButton("cmdNext", "Next Day", [this] { NextDay(); });
+  // Enter presses Sim Day, as the default button of the screen.
+  for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* enter =
+        new QShortcut(QKeySequence(key), this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(enter, &QShortcut::activated, this, [this] {
+      if (sim_->isEnabled()) sim_->click();
+    });
+  }
+  sim_->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(coachGame_);
   buttons->addStretch();

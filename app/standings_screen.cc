@@ -114,6 +114,10 @@ void StandingsScreen::Refresh() {
       bodyLayout_->addWidget(label);
     }
     tables_.push_back(Table(table, national, body_));
+    GridView* grid = tables_.back();
+    connect(grid, &GridView::CellClicked, this, [this, grid](int row, int column) {
+      if (column == 0) host_.OpenTeam(ToStdString(grid->Model()->Cell(row, 0).text));
+    });
     bodyLayout_->addWidget(tables_.back(), national ? 1 : 0);
   }
   if (!national) bodyLayout_->addStretch();

@@ -11,9 +11,11 @@
 
 namespace courtmere::app {
 
-TeamInfoScreen::TeamInfoScreen(Session& session, ScreenHost& host, QWidget* parent)
+TeamInfoScreen::TeamInfoScreen(Session& session, ScreenHost& host, const std::string& school,
+                               QWidget* parent)
     : Screen(session, host, parent),
-      schools_(SchoolList(session.Db(), session.humanSchool, this)),
+      key_(ToQString(school)),
+      schools_(SchoolList(session.Db(), school.empty() ? session.humanSchool : school, this)),
       grid_(NewPairGrid(this)) {
   setObjectName("frmTeamInfo");
   connect(schools_, &QComboBox::currentIndexChanged, this, [this] { Refresh(); });

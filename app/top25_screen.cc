@@ -23,6 +23,9 @@ Top25Screen::Top25Screen(Session& session, ScreenHost& host, QWidget* parent)
   title_->setStyleSheet("font-size: 14pt; font-weight: bold;");
   grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   grid_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+  connect(grid_, &GridView::CellClicked, this, [this](int row, int column) {
+    if (column == 1) host_.OpenTeam(ToStdString(grid_->Model()->Cell(row, 1).text));
+  });
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(title_);
   layout->addWidget(grid_, 1);

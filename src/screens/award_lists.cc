@@ -7,6 +7,11 @@ namespace courtmere {
 
 namespace {
 
+// Where WeekNo holds a position rather than a week or a slot.
+bool WeekNoIsPosition(const std::string& type) {
+  return type == "FirstAA" || type == "SecondAA" || type == "ThirdAA" || type.ends_with("POY");
+}
+
 // The winners of one award Type, by WeekNo.
 std::vector<AwardRow> Winners(Store& store, const std::string& userSchool, const std::string& type,
                               int week) {
@@ -21,6 +26,7 @@ std::vector<AwardRow> Winners(Store& store, const std::string& userSchool, const
     AwardRow row{r.Int(0),    r.Int(1),    r.Text(2),   r.Text(3),   PositionName(r.Int(4)),
                  r.Double(5), r.Double(6), r.Double(7), r.Double(8), r.Double(9),
                  r.Double(10)};
+    if (WeekNoIsPosition(type)) row.Position = PositionName(row.WeekNo);
     row.User = !userSchool.empty() && row.Team == userSchool;
     rows.push_back(std::move(row));
   }

@@ -15,7 +15,9 @@ struct AwardRow {
   int PlayerId = 0;
   std::string Name;
   std::string Team;
-  std::string Position;  // "PG" to "C"
+  // "PG" to "C": the position the honour names where WeekNo holds one (the
+  // players of the year, the All America teams), else the man's own.
+  std::string Position;
   double PPG = 0;
   double RPG = 0;
   double APG = 0;

@@ -21,7 +21,7 @@ CriList ShowCRI(Store& store, const std::string& userSchool) {
 }
 
 std::string FormatIndex(double value) {
-  return fmt::format("{:.4f}", value);
+  return fmt::format("{:.3f}", value);
 }
 
 }  // namespace courtmere

@@ -28,7 +28,8 @@ struct CriList {
 // Empty rows while the index has not been released.
 CriList ShowCRI(Store& store, const std::string& userSchool);
 
-// An index figure as the screen writes it: four decimals, "0.5625".
+// An index figure as the screen writes it: three decimals, "0.563", enough
+// to tell the schools of a page apart.
 std::string FormatIndex(double value);
 
 }  // namespace courtmere

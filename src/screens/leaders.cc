@@ -4,6 +4,7 @@
 #include <set>
 
 #include "people/player.h"
+#include "platform/numeric.h"
 #include "screens/display_format.h"
 #include "store/session.h"
 
@@ -49,6 +50,11 @@ std::pair<double, bool> ValueOf(const PlayerSeasonLine& p, LeaderStat stat) {
   return {0, false};
 }
 
+// The value as the board shows it: the board ranks what the player reads.
+double Shown(double value, LeaderStat stat) {
+  return IsPercentage(stat) ? Round(value * 100, 1) / 100 : Round(value, 1);
+}
+
 std::set<std::string> BoardSchools(Store& store, const std::string& conference) {
   std::set<std::string> schools;
   for (Rows r =
@@ -75,7 +81,7 @@ std::vector<Candidate> Candidates(const PlayerStatsStore& stats,
       const PlayerSeasonLine& p = team->Players[slot];
       if (p.Id == 0 || p.Games == 0 || 2 * p.Games < mostGames) continue;
       const auto [value, qualifies] = ValueOf(p, stat);
-      if (qualifies) out.push_back({&p, &team->SchoolName, value});
+      if (qualifies) out.push_back({&p, &team->SchoolName, Shown(value, stat)});
     }
   }
   return out;
@@ -105,14 +111,14 @@ LeaderLine RowOf(Store& store, const Candidate& c, int rank, LeaderStat stat) {
 
 const std::vector<LeaderStatInfo>& LeaderStats() {
   static const std::vector<LeaderStatInfo> stats = {
-      {LeaderStat::kPoints, "Points per Game"},
-      {LeaderStat::kRebounds, "Rebounds per Game"},
-      {LeaderStat::kAssists, "Assists per Game"},
-      {LeaderStat::kSteals, "Steals per Game"},
-      {LeaderStat::kBlocks, "Blocks per Game"},
-      {LeaderStat::kFieldGoals, "Field Goal Percentage"},
-      {LeaderStat::kThrees, "Three-Point Percentage"},
-      {LeaderStat::kFreeThrows, "Free Throw Percentage"},
+      {LeaderStat::kPoints, "Points per Game", "PPG"},
+      {LeaderStat::kRebounds, "Rebounds per Game", "RPG"},
+      {LeaderStat::kAssists, "Assists per Game", "APG"},
+      {LeaderStat::kSteals, "Steals per Game", "SPG"},
+      {LeaderStat::kBlocks, "Blocks per Game", "BPG"},
+      {LeaderStat::kFieldGoals, "Field Goal Percentage", "FG%"},
+      {LeaderStat::kThrees, "Three-Point Percentage", "3P%"},
+      {LeaderStat::kFreeThrows, "Free Throw Percentage", "FT%"},
   };
   return stats;
 }

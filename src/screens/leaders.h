@@ -24,7 +24,8 @@ enum class LeaderStat {
 
 struct LeaderStatInfo {
   LeaderStat Stat;
-  const char* Name;  // the board's title, "Points per Game"
+  const char* Name;    // the board's title, "Points per Game"
+  const char* Column;  // the heading of its figure, "PPG"
 };
 
 // The boards in the order the screen offers them.
@@ -37,7 +38,10 @@ struct LeaderLine {
   std::string School;
   std::string Position;
   int Games = 0;
-  double Value = 0;  // per game, or a fraction from 0 to 1 for a percentage
+  // Per game, or a fraction from 0 to 1 for a percentage, rounded as shown
+  // (one decimal, of the percentage for a fraction): players who read the
+  // same share a rank.
+  double Value = 0;
   std::string ValueText;
 };
 

@@ -16,7 +16,7 @@ void SubmitOptions(Session& session, const Options& options) {
   c.PlayByPlay = options.PlayByPlay != 0 ? 1 : 0;
   c.Autosave = options.Autosave != 0 ? 1 : 0;
   c.NumPlayers = options.NumPlayers != 0 ? 1 : 0;
-  c.SimSpeed = std::clamp(options.SimSpeed, kSlowestTicker, kFastestTicker);
+  c.SimSpeed = std::clamp(options.SimSpeed, kNoTickerPause, kLongestTickerPause);
   session.Db().Exec(
       "UPDATE Config SET PlayByPlay = ?, Autosave = ?, NumPlayers = ?, SimSpeed = ? "
       "WHERE IdConfig = 0",

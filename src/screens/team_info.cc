@@ -1,7 +1,8 @@
 #include "screens/team_info.h"
 
-#include "platform/numeric.h"
+#include "league/prestige_bands.h"
 #include "screens/display_format.h"
+#include "store/config.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -9,6 +10,23 @@ namespace {
 
 std::string WinLoss(int64_t wins, int64_t losses) {
   return std::to_string(wins) + "-" + std::to_string(losses);
+}
+
+// The season's games join the school's all-time record only at the season's
+// end; until then the record shown adds the games played so far, so it is
+// never behind the season's own.
+std::string AllTimeRecord(Store& store, const std::string& school, int64_t wins, int64_t games) {
+  const std::string stage =
+      store.ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0").value_or("");
+  if (stage == kStageSeason || stage == kStageSeasonOver) {
+    Rows s =
+        store.Query("SELECT TotalWins, TotalLosses FROM TeamStats WHERE SchoolName = ?", school);
+    if (s.Next()) {
+      wins += s.Int(0);
+      games += s.Int(0) + s.Int(1);
+    }
+  }
+  return WinLoss(wins, games - wins);
 }
 
 // The names of the school's staff in one table, joined by ", ".
@@ -37,7 +55,7 @@ void AddProfile(Store& store, const std::string& school, std::vector<InfoLine>& 
   lines.push_back({"Colors", t.Text(5)});
   lines.push_back({"Population", FormatThousands(t.Int64(6))});
   lines.push_back({"Arena Capacity", FormatThousands(t.Int64(7))});
-  lines.push_back({"Prestige", std::to_string(CInt(t.Double(8)))});
+  lines.push_back({"Prestige", BandOf(t.Double(8)).Label});
   lines.push_back({"Team Rating", std::to_string(t.Int(9))});
   lines.push_back({"TV Games", std::to_string(t.Int(10))});
   lines.push_back({"Conference Titles", std::to_string(t.Int(11))});
@@ -47,7 +65,7 @@ void AddProfile(Store& store, const std::string& school, std::vector<InfoLine>& 
   lines.push_back({"ACT Appearances", std::to_string(t.Int(16))});
   lines.push_back({"ACT Record", WinLoss(t.Int(17), t.Int(18))});
   lines.push_back({"ACT Titles", std::to_string(t.Int(19))});
-  lines.push_back({"All-Time Record", WinLoss(t.Int(20), t.Int(21) - t.Int(20))});
+  lines.push_back({"All-Time Record", AllTimeRecord(store, school, t.Int(20), t.Int(21))});
 }
 
 void AddSeason(Store& store, const std::string& school, std::vector<InfoLine>& lines) {

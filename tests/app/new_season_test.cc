@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -23,6 +24,7 @@
 #include "app/leaders_screen.h"
 #include "app/main_window.h"
 #include "app/nonconf_games_screen.h"
+#include "app/options_dialog.h"
 #include "app/score_ticker.h"
 #include "app/sim_games_screen.h"
 #include "app/team_choice_screen.h"
@@ -235,9 +237,14 @@ class NewSeasonTest : public QObject {
   // Sim Day and Next Day from Thursday of week 1 to the Saturday of week 5,
   // which plays nothing, and one press more into week 6.
   void simDayRunsThroughWeekFive() {
-    // No ticker wait between games.
-    session_->Db().Exec("UPDATE Config SET SimSpeed = 0 WHERE IdConfig = 0");
-    session_->config.SimSpeed = 0;
+    // The user asks the ticker for no pause between games.
+    {
+      OptionsDialog options(*session_);
+      auto* pause = options.findChild<QComboBox*>("cmbSpeed");
+      pause->setCurrentIndex(pause->findText("0 - no pause"));
+      options.Submit();
+    }
+    QCOMPARE(session_->config.SimSpeed, 0);
     window_->Entry("mnuSeasonSimGames")->trigger();
     auto* refused = Find<SimGamesScreen>(*window_);
     QVERIFY(refused);

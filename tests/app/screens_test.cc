@@ -191,12 +191,23 @@ class ScreensTest : public QObject {
     auto* box = Find<BoxScoreScreen>(*window_);
     QVERIFY(box);
     QCOMPARE(Title(box), QString("Duke at St. John's"));
-    QCOMPARE(box->HomeGrid()->Model()->Cell(13, 0).text, QString("St. John's"));
+    // The starters of the chart first, point guard to center; the others
+    // after them, those who did not play marked DNP; the totals at the foot.
+    GridModel* home = box->HomeGrid()->Model();
+    const int totals = home->rowCount() - 1;
+    QCOMPARE(home->Cell(totals, 0).text, QString("Totals"));
+    QVERIFY(home->Cell(totals, 0).bold);
+    const QStringList starters = {Abbr("PG1"), Abbr("SG1"), Abbr("SF1"), Abbr("PF1"), Abbr("C1")};
+    QCOMPARE(Column(box->HomeGrid(), 0).mid(0, 5), starters);
+    for (int row = 0; row < totals; ++row) {
+      QVERIFY(!home->Cell(row, 0).text.startsWith("--"));
+      if (home->Cell(row, 2).text == "DNP") QVERIFY(home->Cell(row, 18).text.isEmpty());
+    }
     Screenshot(window_.get(), "box_score");
 
-    // A name opens his card; the team's row and an empty row do nothing.
+    // A name opens his card; the team's row does nothing.
     const QString name = box->HomeGrid()->Model()->Cell(0, 0).text;
-    emit box->HomeGrid()->CellClicked(13, 0);
+    emit box->HomeGrid()->CellClicked(totals, 0);
     QVERIFY(!Find<PlayerCardScreen>(*window_));
     emit box->HomeGrid()->CellClicked(0, 0);
     auto* card = Find<PlayerCardScreen>(*window_);
@@ -308,6 +319,8 @@ class ScreensTest : public QObject {
     QVERIFY(!schools.isEmpty());
     for (const QString& school : schools) QVERIFY(school == "St. John's" || school == "Duke");
     QCOMPARE(Column(leaders->Grid(), 0).first(), QString("1"));
+    QCOMPARE(leaders->Grid()->Model()->headerData(5, Qt::Horizontal, Qt::DisplayRole).toString(),
+             QString("PPG"));
     Screenshot(window_.get(), "leaders");
     emit leaders->Grid()->CellClicked(0, 1);
     QVERIFY(Find<PlayerCardScreen>(*window_));
@@ -347,9 +360,9 @@ class ScreensTest : public QObject {
     QVERIFY(week);
     QCOMPARE(week->objectName(), QString("frmPlayerWeek"));
     QCOMPARE(Column(week->Grid(), 0), QStringList{"2"});
-    QCOMPARE(Column(week->Grid(), 1), QStringList{weekly});
+    QCOMPARE(Column(week->Grid(), 2), QStringList{weekly});
     Screenshot(window_.get(), "player_of_week");
-    emit week->Grid()->CellClicked(0, 1);
+    emit week->Grid()->CellClicked(0, 2);
     QVERIFY(Find<PlayerCardScreen>(*window_));
 
     window_->Entry("mnuHeadlinesAllAmerica")->trigger();
@@ -369,7 +382,14 @@ class ScreensTest : public QObject {
     QVERIFY(team >= 0);
     national->Lists()->setCurrentIndex(team);
     QCOMPARE(national->Grid()->Model()->rowCount(), 5);
+    QCOMPARE(Column(national->Grid(), 0), (QStringList{"PG", "SG", "SF", "PF", "C"}));
     QCOMPARE(Column(national->Grid(), 1).first(), first);
+    // A school's name opens its page.
+    const QString school = Column(national->Grid(), 2).first();
+    emit national->Grid()->CellClicked(0, 2);
+    auto* page = Find<TeamInfoScreen>(*window_);
+    QVERIFY(page);
+    QCOMPARE(page->Schools()->currentText(), school);
     Screenshot(window_.get(), "all_america");
 
     window_->Entry("mnuHeadlineConf")->trigger();
@@ -381,7 +401,7 @@ class ScreensTest : public QObject {
     QCOMPARE(conference->Conferences()->currentText(), QString(AppDynasty::kConference));
     QVERIFY(conference->Lists()->count() >= 2);
     QCOMPARE(conference->Grid()->Model()->rowCount(), 5);
-    for (const QString& school : Column(conference->Grid(), 3)) {
+    for (const QString& school : Column(conference->Grid(), 2)) {
       QVERIFY(school == "St. John's" || school == "Duke" || school == "Clemson" ||
               school == QString::fromUtf8(AppDynasty::kAccented));
     }
@@ -410,6 +430,14 @@ class ScreensTest : public QObject {
   }
 
  private:
+  // The AbbrName of the user's man in a place of the depth chart.
+  QString Abbr(const char* place) {
+    return QString::fromStdString(*dynasty_->store().ScalarText(
+        std::string("SELECT AbbrName FROM Player WHERE Id = (SELECT ") + place +
+            " FROM Team WHERE SchoolName = ?)",
+        AppDynasty::kHuman));
+  }
+
   std::unique_ptr<AppDynasty> dynasty_;
   std::unique_ptr<MainWindow> window_;
 };

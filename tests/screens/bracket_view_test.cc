@@ -41,7 +41,7 @@ TEST(BracketView, AConferenceBracketBeforeAndAfterItsTournament) {
   EXPECT_EQ(before.title, league.conference + " Conference Tournament");
   ASSERT_EQ(before.sections.size(), 1u);
   const BracketRound& friday = before.sections[0].rounds.end()[-3];
-  EXPECT_EQ(friday.title, "Second round");
+  EXPECT_EQ(friday.title, "Quarterfinals");
   EXPECT_EQ(friday.games.front().home.seed, 1);
   EXPECT_TRUE(before.champion.empty());
   EXPECT_TRUE(before.sections[0].rounds.back().games.front().home.school.empty());

@@ -88,7 +88,7 @@ TEST_F(RankingScreensTest, TheIndexListsEverySchoolInItsOrder) {
   EXPECT_EQ(list.Rows[0].Record, "9-4");
   EXPECT_EQ(list.Rows[1].Record, "3-5");
   EXPECT_EQ(list.Rows[1].SchedRank, 1);
-  EXPECT_EQ(FormatIndex(list.Rows[0].CRIValue), "0.5625");
+  EXPECT_EQ(FormatIndex(list.Rows[0].CRIValue), "0.562");
 }
 
 TEST_F(RankingScreensTest, AwardListsGroupEachHonourUnderItsHeading) {

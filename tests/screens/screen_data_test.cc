@@ -1,6 +1,7 @@
 // What the option, team and player screens read and write.
 #include <gtest/gtest.h>
 
+#include "league/prestige_bands.h"
 #include "people/league_fixture.h"
 #include "screens/display_format.h"
 #include "screens/options.h"
@@ -55,10 +56,12 @@ TEST_F(ScreenDataTest, OptionsGoToTheSessionAndTheStore) {
   EXPECT_EQ(stored.PlayByPlay, 1);
   EXPECT_EQ(stored.Autosave, 0);
   EXPECT_EQ(stored.NumPlayers, 1);
-  EXPECT_EQ(stored.SimSpeed, 10) << "the ticker's speed runs from 1 to 10";
+  EXPECT_EQ(stored.SimSpeed, 10) << "the ticker's pause runs from 0 to 10";
   const Options shown = CurrentOptions(session());
   EXPECT_EQ(shown.SimSpeed, 10);
   EXPECT_EQ(shown.NumPlayers, 1);
+  SubmitOptions(session(), {1, 0, 1, -3});
+  EXPECT_EQ(LoadConfig(store()).SimSpeed, 0) << "0 is no pause";
 }
 
 TEST_F(ScreenDataTest, TeamInfoWritesCountsAsTheProgramDoes) {
@@ -69,7 +72,18 @@ TEST_F(ScreenDataTest, TeamInfoWritesCountsAsTheProgramDoes) {
   EXPECT_EQ(ValueOf(info, "Arena Capacity"), "5,602");
   EXPECT_EQ(ValueOf(info, "Record"), "9-4");
   EXPECT_EQ(ValueOf(info, "Head Coach"), "Pat O'Neil");
+  EXPECT_EQ(ValueOf(info, "Prestige"), BandOf(60).Label) << "in the words of the set-up screens";
   EXPECT_TRUE(TeamInfo(store(), "Nowhere").empty());
+}
+
+// The season's games count in the all-time record while the season runs,
+// and only once the season's end has added them to the school's row.
+TEST_F(ScreenDataTest, TheAllTimeRecordHoldsThisSeasonOnce) {
+  store().Exec("UPDATE Team SET OverallWins = 100, OverallGames = 150");
+  store().Exec("UPDATE Config SET Stage = 'Season' WHERE IdConfig = 0");
+  EXPECT_EQ(ValueOf(TeamInfo(store(), "St. John's"), "All-Time Record"), "109-54");
+  store().Exec("UPDATE Config SET Stage = 'End Season' WHERE IdConfig = 0");
+  EXPECT_EQ(ValueOf(TeamInfo(store(), "St. John's"), "All-Time Record"), "100-50");
 }
 
 TEST_F(ScreenDataTest, TheRosterReadsTheChartAndTactics) {

@@ -106,10 +106,11 @@ class LeadersTest : public SeasonDisplaysTest {
   }
 };
 
+// Places are shared by what the board shows: 14.9 and 14.857 both read 14.9.
 TEST_F(LeadersTest, ABoardRanksPerGameAndSharesTiedPlaces) {
   const int a = Add(1, 1, 10, 200);  // 20.0
-  const int b = Add(3, 1, 10, 150);  // 15.0
-  const int c = Add(2, 2, 8, 120);   // 15.0
+  const int b = Add(3, 1, 10, 149);  // 14.9
+  const int c = Add(2, 2, 7, 104);   // 14.857
   const int d = Add(1, 2, 4, 100);   // 25.0 in too few games
   Add(4, 1, 10, 400);                // a background team's player
   const std::vector<LeaderLine> rows = Leaders(session(), "", LeaderStat::kPoints);
@@ -120,6 +121,7 @@ TEST_F(LeadersTest, ABoardRanksPerGameAndSharesTiedPlaces) {
   EXPECT_EQ(rows[0].Name, "Player " + std::to_string(a));
   EXPECT_EQ(rows[1].Rank, 2);
   EXPECT_EQ(rows[2].Rank, 2) << "a tie shares its place";
+  EXPECT_EQ(rows[2].ValueText, "14.9");
   EXPECT_EQ((std::set<int>{rows[1].PlayerId, rows[2].PlayerId}), (std::set<int>{b, c}));
   for (const LeaderLine& row : rows) EXPECT_NE(row.PlayerId, d);
 }
