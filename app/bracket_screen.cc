@@ -99,8 +99,13 @@ void BracketCanvas::SetBracket(BracketView view) {
   update();
 }
 
+// A bracket of one part has no heading of its own above its rounds.
+int BracketCanvas::HeadingHeight(size_t section) const {
+  return view_.sections[section].title.empty() ? 0 : kSectionHeading;
+}
+
 int BracketCanvas::SectionHeight(size_t section) const {
-  return kSectionHeading + kRoundHeading + layouts_[section].rowCount * kRowHeight;
+  return HeadingHeight(section) + kRoundHeading + layouts_[section].rowCount * kRowHeight;
 }
 
 int BracketCanvas::SectionTop(size_t section) const {
@@ -136,7 +141,7 @@ QRect BracketCanvas::GameBox(int section, int round, int game) const {
   const auto s = static_cast<size_t>(section);
   const double row = layouts_[s].rows[static_cast<size_t>(round)][static_cast<size_t>(game)];
   const int top =
-      SectionTop(s) + kSectionHeading + kRoundHeading + static_cast<int>(row * kRowHeight);
+      SectionTop(s) + HeadingHeight(s) + kRoundHeading + static_cast<int>(row * kRowHeight);
   return {kMargin + round * (BoxWidth() + kColumnGap), top, BoxWidth(), 2 * kLine};
 }
 
@@ -190,7 +195,7 @@ void BracketCanvas::paintEvent(QPaintEvent*) {
     for (size_t r = 0; r < section.rounds.size(); ++r) {
       const BracketRound& round = section.rounds[r];
       const int x = kMargin + static_cast<int>(r) * (BoxWidth() + kColumnGap);
-      paint.drawText(QRect(x, top + kSectionHeading, BoxWidth() + kColumnGap, kRoundHeading),
+      paint.drawText(QRect(x, top + HeadingHeight(s), BoxWidth() + kColumnGap, kRoundHeading),
                      Qt::AlignLeft | Qt::AlignVCenter,
                      ToQString(round.title) + "\n" + ToQString(round.when));
       for (size_t g = 0; g < round.games.size(); ++g) {

@@ -46,6 +46,7 @@ class BracketCanvas : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  int HeadingHeight(size_t section) const;
   int SectionHeight(size_t section) const;
   int SectionTop(size_t section) const;
   int Height() const;

@@ -248,7 +248,10 @@ class NewSeasonTest : public QObject {
     window_->Entry("mnuSeasonSimGames")->trigger();
     auto* refused = Find<SimGamesScreen>(*window_);
     QVERIFY(refused);
-    refused->SimButton()->click();
+    // Enter presses Sim Day.
+    QApplication::setActiveWindow(window_.get());
+    refused->Grid()->setFocus();
+    QTest::keyClick(refused->Grid(), Qt::Key_Return);
     QCOMPARE(ui_.Messages().back(), "Please set the depth chart for " + school_.toStdString() +
                                         " before trying to sim this day.");
     QCOMPARE(session_->config.CurrDay, std::string("Thursday"));
