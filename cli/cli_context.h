@@ -20,13 +20,25 @@ struct CliContext {
   std::unique_ptr<Session> session;
 
   // Builds the session and runs the program's start-up (the store is open
-  // afterwards).
-  Session& StartSession();
+  // afterwards). With a dynasty in the store, the random stream is the
+  // dynasty's at its place in the calendar (see season/day_seed.h);
+  // `SeedFrom::kOption` keeps the stream of --seed (or the clock) instead,
+  // for a command that makes a dynasty.
+  enum class SeedFrom { kDynasty, kOption };
+  Session& StartSession(SeedFrom seedFrom = SeedFrom::kDynasty);
 };
 
-// Thrown by a command that refuses, after the program's message is shown:
-// the tool exits with status 2 and the store is as it was.
-struct Refusal {};
+// Thrown by a command that refuses or fails: the tool prints the message (if
+// any; none when the program has already said why) on standard error and
+// exits with status 2. main() is the one place that turns it into the exit.
+struct Refusal {
+  Refusal() = default;
+  explicit Refusal(std::string text) : message(std::move(text)) {}
+  std::string message;
+};
+
+// Refuses with the program's message.
+[[noreturn]] void Refuse(std::string message);
 
 // The user's school, or, when the program folder holds no dynasty, a
 // message and a Refusal.
