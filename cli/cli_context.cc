@@ -17,10 +17,6 @@ Session& CliContext::StartSession(SeedFrom seedFrom) {
   return *session;
 }
 
-void Refuse(std::string message) {
-  throw Refusal(std::move(message));
-}
-
 std::string RequireDynasty(Session& session) {
   Store& store = session.Db();
   const std::string school = HumanSchool(store);

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "cli_ui.h"
+#include "refusal.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -27,18 +28,6 @@ struct CliContext {
   enum class SeedFrom { kDynasty, kOption };
   Session& StartSession(SeedFrom seedFrom = SeedFrom::kDynasty);
 };
-
-// Thrown by a command that refuses or fails: the tool prints the message (if
-// any; none when the program has already said why) on standard error and
-// exits with status 2. main() is the one place that turns it into the exit.
-struct Refusal {
-  Refusal() = default;
-  explicit Refusal(std::string text) : message(std::move(text)) {}
-  std::string message;
-};
-
-// Refuses with the program's message.
-[[noreturn]] void Refuse(std::string message);
 
 // The user's school, or, when the program folder holds no dynasty, a
 // message and a Refusal.

@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
-#include "cli_context.h"
 #include "cpu/computer_roster.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "refusal.h"
 
 namespace courtmere::cli {
 

@@ -1,5 +1,7 @@
 // courtmere-cli: the program's flows without the desktop window.
 #include <CLI/CLI.hpp>
+#include <filesystem>
+#include <system_error>
 
 #include "cli_context.h"
 #include "store/store_files.h"
@@ -12,6 +14,13 @@ constexpr int kRefused = 2;
 // The program's own words for a failure no command foresaw.
 std::string FailureMessage(courtmere::cli::CliContext& context, const std::exception& error) {
   if (context.session) return courtmere::DescribeStoreFailure(*context.session, error);
+  // The program folder itself could not be made.
+  if (const auto* e = dynamic_cast<const std::system_error*>(&error)) {
+    const std::filesystem::path home = context.home.empty()
+                                           ? courtmere::ProgramFolder::DefaultRoot()
+                                           : std::filesystem::path(context.home);
+    return courtmere::DescribeWriteFailure(home, e->code().value());
+  }
   return error.what();
 }
 

@@ -51,7 +51,7 @@ void RestoreFromBackup(const ProgramFolder& folder) {
 // damaged. A busy file, a folder that can't be written, a full disk or an
 // I/O error say nothing of the file's contents: the file is left alone and
 // the failure goes to the caller.
-bool IsDamage(const StoreError& error) {
+bool FailureMeansDamage(const StoreError& error) {
   switch (error.Code()) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
@@ -69,19 +69,26 @@ bool IsDamage(const StoreError& error) {
   }
 }
 
-// A file cut short: shorter than its own header says it is. Asked after the
-// store has opened, when SQLite has played back any journal left behind.
-bool IsCutShort(Store& store) {
+// A file cut short (shorter than its own header says it is) or whose pages
+// don't hang together. Asked after the store has opened, when SQLite has
+// played back any journal left behind. Design decision: the quick check reads
+// every page once (some milliseconds for a dynasty's store) so that a damaged
+// store is found at start-up, kept and replaced, rather than failing every
+// flow that reaches its broken page.
+bool IsDamaged(Store& store) {
   const int64_t pages = store.ScalarInt("PRAGMA page_count").value_or(0);
   const int64_t pageSize = store.ScalarInt("PRAGMA page_size").value_or(0);
-  return static_cast<uintmax_t>(pages * pageSize) > std::filesystem::file_size(store.File());
+  if (static_cast<uintmax_t>(pages * pageSize) > std::filesystem::file_size(store.File())) {
+    return true;
+  }
+  return store.ScalarText("PRAGMA quick_check(1)").value_or("") != "ok";
 }
 
 void OpenWorkingStore(Session& session) {
   try {
     session.store = std::make_unique<Store>(session.folder.Store());
     session.config = LoadConfig(*session.store);
-    if (IsCutShort(*session.store)) throw StoreError("The store is cut short", SQLITE_CORRUPT);
+    if (IsDamaged(*session.store)) throw StoreError("The store is damaged", SQLITE_CORRUPT);
   } catch (const SQLite::Exception& e) {
     session.store.reset();
     throw StoreError(std::string("The store can't be read: ") + e.what(), e.getErrorCode() & 0xff);
@@ -101,7 +108,7 @@ void OpenOrReplaceWorkingStore(Session& session) {
     if (error.Code() == SQLITE_BUSY || error.Code() == SQLITE_LOCKED) {
       throw FolderBusy(session.folder.Root());
     }
-    if (!IsDamage(error)) throw;
+    if (!FailureMeansDamage(error)) throw;
   }
   ReplaceDamagedStore(session);
   OpenWorkingStore(session);

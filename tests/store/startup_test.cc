@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -76,7 +77,9 @@ TEST_F(StartupTest, ADamagedStoreIsKeptUnderADatedNameAndTheBlankStoreTakesItsPl
   }
   const std::string whole = ReadFile(dir_ / "mereball.dat");
   const std::string garbage(10000, '\x5a');
-  for (const std::string& damaged : {garbage, whole.substr(0, whole.size() / 2)}) {
+  std::string scribbled = whole;  // a page in the middle written over
+  std::fill_n(scribbled.begin() + static_cast<std::ptrdiff_t>(whole.size() / 2), 4096, 'x');
+  for (const std::string& damaged : {garbage, whole.substr(0, whole.size() / 2), scribbled}) {
     for (const auto& kept : KeptStores(dir_.Path())) std::filesystem::remove(kept);
     std::ofstream(dir_ / "mereball.dat", std::ios::binary | std::ios::trunc) << damaged;
     const size_t told = ui_.Messages().size();
