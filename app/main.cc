@@ -41,6 +41,11 @@ int main(int argc, char** argv) {
       courtmere::ProgramFolder(courtmere::ProgramFolder::DefaultRoot()), courtmere::Rng(), ui);
   try {
     courtmere::StartUp(*session);
+  } catch (const courtmere::FolderBusy& busy) {
+    // Another Courtmere (a window or the command-line tool) has the folder:
+    // this one goes away without touching it.
+    QMessageBox::critical(nullptr, "Courtmere", busy.what());
+    return 2;
   } catch (const std::exception& e) {
     QMessageBox::critical(nullptr, "Courtmere",
                           QString("Courtmere can't open its store: %1").arg(e.what()));

@@ -4,14 +4,16 @@
 
 #include "league/head_coach.h"
 #include "league/standings.h"
+#include "store/dynasty_seed.h"
 #include "store/store_files.h"
 
 namespace courtmere::cli {
 
-Session& CliContext::StartSession() {
+Session& CliContext::StartSession(SeedFrom seedFrom) {
   ProgramFolder folder(home.empty() ? ProgramFolder::DefaultRoot() : std::filesystem::path(home));
   session = std::make_unique<Session>(std::move(folder), Rng::FromOption(seed), ui);
   StartUp(*session);
+  if (seedFrom == SeedFrom::kDynasty) SeedForPlace(*session, "command");
   return *session;
 }
 

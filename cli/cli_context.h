@@ -9,6 +9,7 @@
 #include <string>
 
 #include "cli_ui.h"
+#include "refusal.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -20,13 +21,13 @@ struct CliContext {
   std::unique_ptr<Session> session;
 
   // Builds the session and runs the program's start-up (the store is open
-  // afterwards).
-  Session& StartSession();
+  // afterwards). With a dynasty in the store, the random stream is the
+  // dynasty's at its place in the calendar (see season/day_seed.h);
+  // `SeedFrom::kOption` keeps the stream of --seed (or the clock) instead,
+  // for a command that makes a dynasty.
+  enum class SeedFrom { kDynasty, kOption };
+  Session& StartSession(SeedFrom seedFrom = SeedFrom::kDynasty);
 };
-
-// Thrown by a command that refuses, after the program's message is shown:
-// the tool exits with status 2 and the store is as it was.
-struct Refusal {};
 
 // The user's school, or, when the program folder holds no dynasty, a
 // message and a Refusal.

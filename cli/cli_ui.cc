@@ -23,8 +23,7 @@ void CliUi::EndLine() {
 void CliUi::Message(std::string_view text) {
   ScriptedUi::Message(text);
   EndLine();
-  fmt::print("{}: {}\n", kProgramTitle, text);
-  std::fflush(stdout);
+  fmt::print(stderr, "{}: {}\n", kProgramTitle, text);
 }
 
 bool CliUi::Ask(std::string_view question) {

@@ -1,8 +1,13 @@
 // The command-line tool's Ui: questions take the scripted answers (Yes when
-// none is queued) and messages print on standard output as
+// none is queued) and messages print on standard error as
 // "Courtmere: <text>"; the progress window is a caption and, on a terminal,
 // a bar on standard error, so that standard output holds only what a command
 // reports.
+//
+// Design decision: every message box goes to standard error, the program's
+// notices as well as its refusals, so that a refusal's reason is always
+// there, in the order the program said it, and standard output stays the
+// command's own tables.
 //
 // A long run (a whole season) shows one bar of its own instead of the
 // captions of its many steps: between BeginRun and EndRun the steps'

@@ -1,8 +1,6 @@
 // courtmere-cli load FILE: File > Load without the dialog.
 #include <fmt/format.h>
 
-#include <iostream>
-
 #include "cli_context.h"
 #include "people/grade_all_players.h"
 #include "save_game_path.h"
@@ -19,8 +17,7 @@ void RunLoad(CliContext& context, const std::string& file) {
   switch (LoadGameFile(session, path, GradeAllPlayers)) {
     case LoadOutcome::kIgnored:
       // The desktop program ends here without a word; the tool says why.
-      std::cerr << "courtmere-cli: a saved game's name ends in .CMR; nothing was loaded\n";
-      throw Refusal{};
+      Refuse("A saved game's name ends in .CMR; nothing was loaded.");
     case LoadOutcome::kRefused:
       throw Refusal{};
     case LoadOutcome::kLoaded:

@@ -72,7 +72,8 @@ void PrintSummary(Session& session, const NewOptions& options) {
 }
 
 void RunNew(CliContext& context, const NewOptions& options) {
-  Session& session = context.StartSession();
+  // The new dynasty takes --seed as its own seed.
+  Session& session = context.StartSession(CliContext::SeedFrom::kOption);
   NewDynastyRequest request;
   request.conferences = SplitList(options.conferences);
   request.school = options.school;

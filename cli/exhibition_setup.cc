@@ -1,10 +1,11 @@
 #include "exhibition_setup.h"
 
-#include <stdexcept>
+#include <fmt/format.h>
 
 #include "cpu/computer_roster.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "refusal.h"
 
 namespace courtmere::cli {
 
@@ -19,6 +20,16 @@ bool Exists(Store& store, const char* table, const std::string& school) {
   return store.ScalarInt(sql, school).value_or(0) > 0;
 }
 
+// Whether the school has an offensive and a defensive coach, as a game needs.
+bool HasGameCoaches(Store& store, const std::string& school) {
+  for (const char* role : {"OffPoints", "DefPoints"}) {
+    const std::string sql =
+        std::string("SELECT count(*) FROM Coach WHERE Team = ? AND ") + role + " = 1";
+    if (store.ScalarInt(sql, school).value_or(0) == 0) return false;
+  }
+  return true;
+}
+
 // Two schools of the first fixed conference, from the dynasty or the seeds.
 SchoolPair DefaultPair(Store& store) {
   const char* sql = HasDynasty(store)
@@ -30,7 +41,7 @@ SchoolPair DefaultPair(Store& store) {
   Rows rows = store.Query(sql);
   if (rows.Next()) pair.home = rows.Text(0);
   if (rows.Next()) pair.away = rows.Text(0);
-  if (pair.away.empty()) throw std::runtime_error("no two schools to play an exhibition");
+  if (pair.away.empty()) Refuse("There are no two schools to play an exhibition.");
   return pair;
 }
 
@@ -66,7 +77,7 @@ std::pair<std::string, int> AddSeedSchool(Store& store, const std::string& schoo
     store.Append("TeamStats", {{"SchoolName", school}});
     return {rows.Text(7), prestige};
   }
-  throw std::runtime_error("unknown school: " + school);
+  Refuse(fmt::format("There is no school named {}.", school));
 }
 
 void SetUpFromSeeds(Session& session, const SchoolPair& pair) {
@@ -90,13 +101,20 @@ void SetUpFromSeeds(Session& session, const SchoolPair& pair) {
 SchoolPair PrepareExhibition(Session& session, std::string home, std::string away) {
   Store& store = session.Db();
   SchoolPair pair = home.empty() ? DefaultPair(store) : SchoolPair{home, away};
+  if (pair.home == pair.away) Refuse(fmt::format("{} can't play itself.", pair.home));
   if (!HasDynasty(store)) {
     SetUpFromSeeds(session, pair);
     return pair;
   }
   for (const std::string& school : {pair.home, pair.away}) {
     if (!Exists(store, "Team", school) && !Exists(store, "ScrubTeam", school)) {
-      throw std::runtime_error("no such school in this dynasty: " + school);
+      Refuse(fmt::format("There is no school named {} in this dynasty.", school));
+    }
+    // Design decision: the exhibition plays in a copy of the dynasty, so a
+    // school whose coaches hold no game roles yet (the user's, before his
+    // first game) takes the computer's choice there instead of being refused.
+    if (Exists(store, "Team", school) && !HasGameCoaches(store, school)) {
+      SetCoachRoles(session, school);
     }
   }
   return pair;

@@ -15,9 +15,9 @@ struct SchoolPair {
 };
 
 // Names the two schools (two schools of the first fixed conference when
-// `home` and `away` are empty) and makes sure both can play. Throws
-// std::runtime_error for a school that is neither in the dynasty nor in the
-// seed tables.
+// `home` and `away` are empty) and makes sure both can play. Refuses one
+// school against itself and a school that is neither in the dynasty nor in
+// the seed tables.
 SchoolPair PrepareExhibition(Session& session, std::string home, std::string away);
 
 }  // namespace courtmere::cli

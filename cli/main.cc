@@ -1,8 +1,30 @@
 // courtmere-cli: the program's flows without the desktop window.
 #include <CLI/CLI.hpp>
-#include <iostream>
+#include <filesystem>
+#include <system_error>
 
 #include "cli_context.h"
+#include "store/store_files.h"
+
+namespace {
+
+// The exit status of every refusal and failure.
+constexpr int kRefused = 2;
+
+// The program's own words for a failure no command foresaw.
+std::string FailureMessage(courtmere::cli::CliContext& context, const std::exception& error) {
+  if (context.session) return courtmere::DescribeStoreFailure(*context.session, error);
+  // The program folder itself could not be made.
+  if (const auto* e = dynamic_cast<const std::system_error*>(&error)) {
+    const std::filesystem::path home = context.home.empty()
+                                           ? courtmere::ProgramFolder::DefaultRoot()
+                                           : std::filesystem::path(context.home);
+    return courtmere::DescribeWriteFailure(home, e->code().value());
+  }
+  return error.what();
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   courtmere::cli::CliContext context;
@@ -34,15 +56,21 @@ int main(int argc, char** argv) {
   courtmere::cli::AddCriCommand(app, context);
   courtmere::cli::AddAwardsCommand(app, context);
 
+  // Every refusal and failure ends here: its message on standard error and
+  // the status 2. A command that has stored its work and then failed at a
+  // clean-up says so itself and ends normally.
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
-    return app.exit(e);
-  } catch (const courtmere::cli::Refusal&) {
-    return 2;
+    // --help and --version end with 0; a bad option or value is refused.
+    const int status = app.exit(e);
+    return status == 0 ? 0 : kRefused;
+  } catch (const courtmere::cli::Refusal& refusal) {
+    if (!refusal.message.empty()) context.ui.Message(refusal.message);
+    return kRefused;
   } catch (const std::exception& e) {
-    std::cerr << "courtmere-cli: " << e.what() << '\n';
-    return 1;
+    context.ui.Message(FailureMessage(context, e));
+    return kRefused;
   }
   return 0;
 }

@@ -99,7 +99,9 @@ CREATE TABLE Config (
   PlayByPlay INTEGER DEFAULT 0,
   Autosave INTEGER DEFAULT 0,
   SimSpeed INTEGER DEFAULT 5,
-  MaxGameNo INTEGER DEFAULT 0
+  MaxGameNo INTEGER DEFAULT 0,
+  -- The dynasty's random seed; NULL when its randomness comes from the clock.
+  Seed INTEGER
 ) STRICT;
 
 CREATE TABLE League (

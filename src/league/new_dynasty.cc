@@ -2,6 +2,7 @@
 
 #include "league/clear_dynasty.h"
 #include "league/league_setup.h"
+#include "store/dynasty_seed.h"
 #include "store/session.h"
 #include "store/store_files.h"
 #include "store/upgrade_store.h"
@@ -18,6 +19,7 @@ bool BeginNewDynasty(Session& session) {
   Store& store = session.Db();
   Store::Transaction tx(store);
   ClearDynasty(store);
+  SaveDynastySeed(store, session.givenSeed);
   SetupLeagues(session);
   tx.Commit();
   session.config = LoadConfig(store);

@@ -1,9 +1,11 @@
 #include "platform/file_cipher.h"
 
 #include <sodium.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -38,21 +40,42 @@ void AppendBytes(std::vector<unsigned char>& out, const void* data, size_t size)
   std::memcpy(out.data() + at, data, size);
 }
 
-bool ReadAll(const std::filesystem::path& path, std::vector<unsigned char>& bytes) {
-  File f = OpenFile(path, "rb");
-  if (!f) return false;
-  bytes.clear();
-  unsigned char buffer[kChunk];
-  size_t n;
-  while ((n = std::fread(buffer, 1, sizeof buffer, f.get())) > 0) {
-    AppendBytes(bytes, buffer, n);
-  }
-  return std::ferror(f.get()) == 0;
-}
-
 bool StartsWith(const std::vector<unsigned char>& bytes, std::string_view prefix) {
   return bytes.size() >= prefix.size() &&
          std::memcmp(bytes.data(), prefix.data(), prefix.size()) == 0;
+}
+
+CipherResult Fail(CipherOutcome outcome, int error = 0) {
+  return CipherResult{outcome, error};
+}
+
+// Reads a file the cipher may take. Its size and first bytes are looked at
+// before the rest is read: a file too large to be a store, or that starts
+// neither as a store nor as an enciphered file, is refused at once.
+CipherResult ReadCandidate(const std::filesystem::path& path, std::vector<unsigned char>& bytes) {
+  File f = OpenFile(path, "rb");
+  if (!f) return Fail(CipherOutcome::kCannotRead, errno);
+  struct stat info {};
+  if (fstat(fileno(f.get()), &info) != 0) return Fail(CipherOutcome::kCannotRead, errno);
+  const auto size = static_cast<uintmax_t>(info.st_size);
+  if (size > kMaxCipherBytes) return Fail(CipherOutcome::kRefused);
+  bytes.clear();
+  bytes.resize(kSqliteHeader.size());
+  const size_t head = std::fread(bytes.data(), 1, bytes.size(), f.get());
+  bytes.resize(head);
+  if (!StartsWith(bytes, kMagic) && !StartsWith(bytes, kSqliteHeader)) {
+    return std::ferror(f.get()) ? Fail(CipherOutcome::kCannotRead, EIO)
+                                : Fail(CipherOutcome::kRefused);
+  }
+  bytes.reserve(size);
+  unsigned char buffer[kChunk];
+  size_t n;
+  while ((n = std::fread(buffer, 1, sizeof buffer, f.get())) > 0) {
+    if (bytes.size() + n > kMaxCipherBytes) return Fail(CipherOutcome::kRefused);
+    AppendBytes(bytes, buffer, n);
+  }
+  if (std::ferror(f.get())) return Fail(CipherOutcome::kCannotRead, EIO);
+  return {};
 }
 
 // The last key derived, with what it was derived from. Argon2id is slow on
@@ -158,29 +181,37 @@ std::optional<std::vector<unsigned char>> Decipher(const std::vector<unsigned ch
   return plain;
 }
 
-// Writes beside `out`, syncs and renames over it.
-bool WriteAtomically(const std::filesystem::path& out, const std::vector<unsigned char>& bytes) {
+// Writes beside `out`, syncs and renames over it; on failure the errno of
+// the write that failed, and `out` as it was.
+CipherResult WriteAtomically(const std::filesystem::path& out,
+                             const std::vector<unsigned char>& bytes) {
   std::filesystem::path temp = out;
   temp += ".cipher-tmp";
+  std::error_code ignored;
   {
     File f = OpenFile(temp, "wb");
-    if (!f) return false;
+    if (!f) return Fail(CipherOutcome::kCannotWrite, errno);
     const bool ok = std::fwrite(bytes.data(), 1, bytes.size(), f.get()) == bytes.size() &&
                     std::fflush(f.get()) == 0 && fsync(fileno(f.get())) == 0;
     if (!ok) {
+      const int error = errno;
       f.reset();
-      std::error_code ignored;
       std::filesystem::remove(temp, ignored);
-      return false;
+      return Fail(CipherOutcome::kCannotWrite, error);
+    }
+    if (std::fclose(f.release()) != 0) {
+      const int error = errno;
+      std::filesystem::remove(temp, ignored);
+      return Fail(CipherOutcome::kCannotWrite, error);
     }
   }
   std::error_code ec;
   std::filesystem::rename(temp, out, ec);
   if (ec) {
-    std::filesystem::remove(temp, ec);
-    return false;
+    std::filesystem::remove(temp, ignored);
+    return Fail(CipherOutcome::kCannotWrite, ec.value());
   }
-  return true;
+  return {};
 }
 
 bool SodiumReady() {
@@ -198,18 +229,36 @@ bool IsEnciphered(const std::filesystem::path& file) {
          std::memcmp(magic, kMagic.data(), kMagic.size()) == 0;
 }
 
-bool CipherFile(const std::filesystem::path& in, const std::filesystem::path& out,
-                std::string_view passphrase) {
-  if (!SodiumReady()) return false;
+CipherResult TransformFile(const std::filesystem::path& in, const std::filesystem::path& out,
+                           std::string_view passphrase) {
+  if (!SodiumReady()) return Fail(CipherOutcome::kRefused);
   std::vector<unsigned char> bytes;
-  if (!ReadAll(in, bytes)) return false;
+  if (CipherResult read = ReadCandidate(in, bytes); !read.Done()) return read;
   std::optional<std::vector<unsigned char>> result;
   if (StartsWith(bytes, kMagic)) {
     result = Decipher(bytes, passphrase);
-  } else if (StartsWith(bytes, kSqliteHeader)) {
+  } else {
     result = Encipher(bytes, passphrase);
   }
-  return result && WriteAtomically(out, *result);
+  if (!result) return Fail(CipherOutcome::kRefused);
+  return WriteAtomically(out, *result);
+}
+
+CipherResult DecipherFile(const std::filesystem::path& in, std::string_view passphrase,
+                          std::vector<unsigned char>& plain) {
+  if (!SodiumReady()) return Fail(CipherOutcome::kRefused);
+  std::vector<unsigned char> bytes;
+  if (CipherResult read = ReadCandidate(in, bytes); !read.Done()) return read;
+  if (!StartsWith(bytes, kMagic)) return Fail(CipherOutcome::kRefused);
+  std::optional<std::vector<unsigned char>> result = Decipher(bytes, passphrase);
+  if (!result) return Fail(CipherOutcome::kRefused);
+  plain = std::move(*result);
+  return {};
+}
+
+bool CipherFile(const std::filesystem::path& in, const std::filesystem::path& out,
+                std::string_view passphrase) {
+  return TransformFile(in, out, passphrase).Done();
 }
 
 }  // namespace courtmere

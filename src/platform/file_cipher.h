@@ -16,13 +16,40 @@
 // on failure `out` is left as it was.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <vector>
 
 namespace courtmere {
 
-// Answers true when the file was transformed and written to `out`
-// (`in` and `out` may be the same path).
+// The largest file the cipher takes. A dynasty's store stays far below it;
+// a larger file is refused from its size, before a byte of it is read.
+inline constexpr uintmax_t kMaxCipherBytes = uintmax_t{1} << 30;
+
+enum class CipherOutcome {
+  kDone,
+  kRefused,      // not a store or an enciphered file, too large, or it won't decipher
+  kCannotRead,   // the in-file can't be read (missing, not allowed)
+  kCannotWrite,  // the out-file can't be written (a full disk, a read-only folder)
+};
+
+struct CipherResult {
+  CipherOutcome outcome = CipherOutcome::kDone;
+  int error = 0;  // the errno of a failed read or write
+  bool Done() const { return outcome == CipherOutcome::kDone; }
+};
+
+// Transforms `in` and writes the result to `out` (`in` and `out` may be the
+// same path), telling a file the cipher refuses from a disk that fails.
+CipherResult TransformFile(const std::filesystem::path& in, const std::filesystem::path& out,
+                           std::string_view passphrase);
+
+// Deciphers an enciphered file into `plain`, writing nothing to disk.
+CipherResult DecipherFile(const std::filesystem::path& in, std::string_view passphrase,
+                          std::vector<unsigned char>& plain);
+
+// Answers true when the file was transformed and written to `out`.
 bool CipherFile(const std::filesystem::path& in, const std::filesystem::path& out,
                 std::string_view passphrase);
 

@@ -14,8 +14,17 @@ Rng::Rng() {
   Seed(ClockTicks());
 }
 
-Rng::Rng(uint64_t seed) : fixed_(true) {
+Rng::Rng(uint64_t seed) : seed_(seed), fixed_(true) {
   Seed(seed);
+}
+
+uint64_t Rng::SeedFor(uint64_t seed, std::string_view place) {
+  // FNV-1a over the place's text, then two rounds of SplitMix with the seed.
+  uint64_t hash = 0xcbf29ce484222325ULL;
+  for (unsigned char c : place) hash = (hash ^ c) * 0x100000001b3ULL;
+  uint64_t x = seed;
+  x ^= SplitMix(hash);
+  return SplitMix(x);
 }
 
 Rng Rng::FromOption(std::optional<uint64_t> seed) {

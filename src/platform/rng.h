@@ -14,6 +14,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace courtmere {
 
@@ -63,6 +64,15 @@ class Rng {
   }
 
   bool Fixed() const { return fixed_; }
+  // The seed a fixed-mode generator was made with; none in clock mode.
+  std::optional<uint64_t> FixedSeed() const {
+    return fixed_ ? std::optional<uint64_t>(seed_) : std::nullopt;
+  }
+
+  // The seed of one place of a flow (a day of the calendar): the flow's seed
+  // hashed with the text naming the place, so that every place has a stream
+  // of its own that depends on nothing that ran before it.
+  static uint64_t SeedFor(uint64_t seed, std::string_view place);
 
   // Raw 64-bit output.
   uint64_t Next() {
@@ -85,6 +95,7 @@ class Rng {
   void Seed(uint64_t seed);
 
   uint64_t state_ = 0;
+  uint64_t seed_ = 0;
   uint64_t reseeds_ = 0;
   bool fixed_ = false;
 };

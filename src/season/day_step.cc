@@ -19,6 +19,7 @@
 #include "season/season_observer.h"
 #include "season/season_run.h"
 #include "season/week_end.h"
+#include "store/dynasty_seed.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -180,6 +181,13 @@ DayOutcome RunStep(SeasonRun& run, bool automatic) {
   if (session.config.Stage != kStageSeason || session.config.CurrWeek > kLastSeasonWeek) {
     return DayOutcome::kStopped;
   }
+  // The day's stream depends on the dynasty's seed and the day alone, and
+  // the day plays on a fresh game model and result tables, so that nothing
+  // of the previous day's last game carries into it: a season replays
+  // however it is cut into runs.
+  SeedForPlace(session, "day");
+  run.game = Game(session, run.game.screen);
+  run.day = DayResults();
   MemoryOfDay memory(session);
   const CalendarDay today{session.config.CurrWeek, session.config.CurrDay};
   DayOutcome outcome = DayOutcome::kPlayed;

@@ -1,8 +1,13 @@
 #include "store/saved_games.h"
 
+#include <fmt/format.h>
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <string>
+#include <vector>
 
 #include "platform/file_cipher.h"
 #include "store/season_stats.h"
@@ -19,25 +24,57 @@ void RemoveQuietly(const std::filesystem::path& file) {
   std::filesystem::remove(file, ignored);
 }
 
-// Whether the file is a store with its Config row; SimSpeed is the column a
-// save must answer for.
+// A query on a store that is only bytes in memory.
+class MemoryStore {
+ public:
+  explicit MemoryStore(const std::vector<unsigned char>& bytes) {
+    ConfigureSqliteOnce();
+    if (sqlite3_open(":memory:", &db_) != SQLITE_OK) return;
+    auto* copy = static_cast<unsigned char*>(sqlite3_malloc64(bytes.size()));
+    if (copy == nullptr) return;
+    std::memcpy(copy, bytes.data(), bytes.size());
+    ok_ = sqlite3_deserialize(db_, "main", copy, static_cast<sqlite3_int64>(bytes.size()),
+                              static_cast<sqlite3_int64>(bytes.size()),
+                              SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_READONLY) ==
+          SQLITE_OK;
+  }
+  ~MemoryStore() { sqlite3_close(db_); }
+  MemoryStore(const MemoryStore&) = delete;
+  MemoryStore& operator=(const MemoryStore&) = delete;
+
+  // Whether the query gives a row.
+  bool HasRow(const char* sql) {
+    sqlite3_stmt* stmt = nullptr;
+    if (!ok_ || sqlite3_prepare_v2(db_, sql, -1, &stmt, nullptr) != SQLITE_OK) {
+      sqlite3_finalize(stmt);
+      return false;
+    }
+    const bool row = sqlite3_step(stmt) == SQLITE_ROW;
+    sqlite3_finalize(stmt);
+    return row;
+  }
+
+ private:
+  sqlite3* db_ = nullptr;
+  bool ok_ = false;
+};
+
+// SimSpeed is the column a save must answer for.
+constexpr const char* kConfigRowQuery = "SELECT SimSpeed FROM Config WHERE IdConfig = 0";
+
+// Whether the file is a store with its Config row.
 bool HasConfigRow(const std::filesystem::path& file) {
   try {
     Store store(file);
-    Rows rows = store.Query("SELECT SimSpeed FROM Config WHERE IdConfig = 0");
+    Rows rows = store.Query(kConfigRowQuery);
     return rows.Next();
   } catch (const std::exception&) {
     return false;
   }
 }
 
-// Deciphers a save into `plain` and checks that it is a dynasty's store.
-// On failure `plain` is gone.
-bool DecipherSave(const std::filesystem::path& save, const std::filesystem::path& plain) {
-  RemoveQuietly(plain);
-  const bool ok = CipherFile(save, plain, kSavePassphrase) && HasConfigRow(plain);
-  if (!ok) RemoveQuietly(plain);
-  return ok;
+std::string CannotRead(const std::filesystem::path& file, int error) {
+  return fmt::format(kCannotReadFile, file.string(), std::strerror(error));
 }
 
 // Writes the working store, enciphered, to `target`. The store is closed for
@@ -46,9 +83,14 @@ bool DecipherSave(const std::filesystem::path& save, const std::filesystem::path
 // failure leaves `target` as it was.
 bool WriteSave(Session& session, const std::filesystem::path& target) {
   CloseStore(session, 0);
-  const bool written = CipherFile(session.folder.Store(), target, kSavePassphrase);
+  const CipherResult written = TransformFile(session.folder.Store(), target, kSavePassphrase);
   OpenStore(session, 0);
-  if (!written) {
+  if (written.outcome == CipherOutcome::kCannotWrite) {
+    session.ui.Message(
+        fmt::format(kSaveNotWritten, DescribeWriteFailure(target.parent_path(), written.error)));
+    return false;
+  }
+  if (!written.Done()) {
     session.ui.Message("Error in the encryption");
     return false;
   }
@@ -91,10 +133,13 @@ std::optional<std::filesystem::path> ChooseSaveName(Session& session) {
 }
 
 int CheckSaveFile(Session& session, const std::filesystem::path& path) {
-  const std::filesystem::path plain = session.folder.Path("\\mereballCheck.dat");
-  const bool ok = DecipherSave(path, plain);
-  RemoveQuietly(plain);
-  if (!ok) {
+  std::vector<unsigned char> plain;
+  const CipherResult deciphered = DecipherFile(path, kSavePassphrase, plain);
+  if (deciphered.outcome == CipherOutcome::kCannotRead) {
+    session.ui.Message(CannotRead(path, deciphered.error));
+    return 0;
+  }
+  if (!deciphered.Done() || !MemoryStore(plain).HasRow(kConfigRowQuery)) {
     session.ui.Message(kNotASaveGame);
     return 0;
   }
@@ -103,7 +148,19 @@ int CheckSaveFile(Session& session, const std::filesystem::path& path) {
 
 bool LoadSave(Session& session, const std::filesystem::path& path) {
   const std::filesystem::path plain = session.folder.Path("\\mereballLoad.dat");
-  if (!DecipherSave(path, plain)) {
+  RemoveQuietly(plain);
+  const CipherResult deciphered = TransformFile(path, plain, kSavePassphrase);
+  if (deciphered.outcome == CipherOutcome::kCannotWrite) {
+    session.ui.Message(fmt::format(kLoadNotWritten,
+                                   DescribeWriteFailure(session.folder.Root(), deciphered.error)));
+    return false;
+  }
+  if (deciphered.outcome == CipherOutcome::kCannotRead) {
+    session.ui.Message(CannotRead(path, deciphered.error));
+    return false;
+  }
+  if (!deciphered.Done() || !HasConfigRow(plain)) {
+    RemoveQuietly(plain);
     session.ui.Message(kCannotReadSave);
     return false;
   }

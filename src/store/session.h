@@ -9,8 +9,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "platform/folder_lock.h"
 #include "platform/program_folder.h"
 #include "platform/rng.h"
 #include "platform/ui.h"
@@ -22,11 +24,18 @@
 namespace courtmere {
 
 struct Session {
-  Session(ProgramFolder folder, Rng rng, Ui& ui) : folder(std::move(folder)), rng(rng), ui(ui) {}
+  Session(ProgramFolder folder, Rng rng, Ui& ui)
+      : folder(std::move(folder)), rng(rng), givenSeed(rng.FixedSeed()), ui(ui) {}
 
   ProgramFolder folder;
   Rng rng;
+  // The fixed seed the run was started with (--seed, a test's); none in clock
+  // mode. A new dynasty keeps it as its own (store/dynasty_seed.h).
+  std::optional<uint64_t> givenSeed;
   Ui& ui;
+  // Held from start-up to the end of the run (declared before the store, so
+  // that it is let go after the store is closed).
+  std::unique_ptr<FolderLock> folderLock;
   std::unique_ptr<Store> store;  // null while the store is closed
   Config config;
   Inbox inbox;  // the current week's messages to the user

@@ -133,6 +133,8 @@ std::string Rows::ColumnName(int col) const {
 
 namespace {
 
+constexpr int kBusyWaitMs = 1000;
+
 SQLite::Database OpenDatabase(const std::filesystem::path& file) {
   ConfigureSqliteOnce();
   if (!std::filesystem::exists(file)) {
@@ -142,18 +144,32 @@ SQLite::Database OpenDatabase(const std::filesystem::path& file) {
     // One connection serves one thread: SQLite's own locking of every call
     // would guard nothing.
     SQLite::Database db(file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+    // The folder lock keeps other Courtmeres away; another program holding
+    // the file (a database browser) is waited for a moment, and then the
+    // store is reported busy, never damaged.
+    db.setBusyTimeout(kBusyWaitMs);
     // A file that isn't a database opens without complaint; reading its
     // schema is what finds it out.
     db.exec("SELECT count(*) FROM sqlite_master");
     return db;
   } catch (const SQLite::Exception& e) {
-    throw StoreError("The store " + file.string() + " can't be opened: " + e.what());
+    throw StoreError("The store " + file.string() + " can't be opened: " + e.what(),
+                     e.getErrorCode() & 0xff);
   }
 }
 
 }  // namespace
 
 Store::Store(const std::filesystem::path& file) : file_(file), db_(OpenDatabase(file)) {
+  try {
+    SetSessionPragmas();
+  } catch (const SQLite::Exception& e) {
+    throw StoreError("The store " + file.string() + " can't be opened: " + e.what(),
+                     e.getErrorCode() & 0xff);
+  }
+}
+
+void Store::SetSessionPragmas() {
   // Rollback journal with full syncs at commit: the file is whole after every
   // committed step, and closing leaves nothing beside it to copy or cipher.
   db_.exec("PRAGMA journal_mode = DELETE");
@@ -276,6 +292,12 @@ Store::Transaction::~Transaction() {
 }
 
 void Store::Transaction::Commit() {
+  // SQLite ends a transaction of its own accord on some failures (a full
+  // disk, an I/O error). Committing then would store the rest of the step
+  // alone, outside any transaction; it fails instead, as the step did.
+  if (sqlite3_get_autocommit(store_.db_.getHandle()) != 0) {
+    throw StoreError("The step was rolled back after a failure of the store", SQLITE_ABORT);
+  }
   if (depth_ == 0) {
     store_.db_.exec("COMMIT");
   } else {

@@ -91,8 +91,8 @@ class Rows {
 
 class Store {
  public:
-  // Opens an existing store file. Throws StoreError when it is missing or is
-  // not a database.
+  // Opens an existing store file. Throws StoreError, with SQLite's result
+  // code, when it is missing, is not a database, or can't be opened now.
   explicit Store(const std::filesystem::path& file);
   ~Store();
   Store(const Store&) = delete;
@@ -190,6 +190,7 @@ class Store {
     bool* inUse;
   };
 
+  void SetSessionPragmas();
   Cached Acquire(std::string_view sql);
   int64_t Append(std::string_view table, const Column* columns, size_t count);
   int Run(Cached& c);

@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "support/temp_folder.h"
 
@@ -88,9 +90,22 @@ TEST_F(FileCipherTest, RefusesDamagedOrForeignFilesLeavingThemAsTheyWere) {
   EXPECT_FALSE(std::filesystem::exists(dir_ / "mereball.dat.cipher-tmp"));
 }
 
-TEST_F(FileCipherTest, MissingFileAnswersFalse) {
+// A failure says whose it is: the file's (refused, unreadable) or the
+// disk's (the result can't be written).
+TEST_F(FileCipherTest, TellsARefusedFileFromOneThatCantBeReadOrWritten) {
   EXPECT_FALSE(CipherFile(dir_ / "none.dat", dir_ / "none.dat", kPass));
   EXPECT_FALSE(std::filesystem::exists(dir_ / "none.dat"));
+  EXPECT_EQ(TransformFile(dir_ / "none.dat", dir_ / "out", kPass).outcome,
+            CipherOutcome::kCannotRead);
+  std::ofstream(dir_ / "text.txt") << "not a store";
+  EXPECT_EQ(TransformFile(dir_ / "text.txt", dir_ / "out", kPass).outcome, CipherOutcome::kRefused);
+  WriteFile(file_, FakeStore(1000));
+  const CipherResult unwritten = TransformFile(file_, dir_ / "missing" / "out.CMR", kPass);
+  EXPECT_EQ(unwritten.outcome, CipherOutcome::kCannotWrite);
+  EXPECT_EQ(unwritten.error, ENOENT);
+  std::vector<unsigned char> plain;
+  EXPECT_EQ(DecipherFile(file_, kPass, plain).outcome, CipherOutcome::kRefused)
+      << "a plain store is no enciphered file";
 }
 
 }  // namespace

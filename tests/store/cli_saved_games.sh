@@ -10,7 +10,7 @@ run 0 --home "$home" --seed 1 new --conferences "MVC;WAC;Atlantic 10" --school "
   --coach "D'Angelo O'Neil"
 
 run 0 --home "$home" save spring
-expect "Courtmere: Your game has been saved to $home/SaveGame/spring.CMR"
+expect_err "Courtmere: Your game has been saved to $home/SaveGame/spring.CMR"
 [[ -f $home/SaveGame/spring.CMR ]] || fail "no save written"
 saved=$(sqlite3 "$home/mereball.dat" "SELECT count(*) FROM Player")
 

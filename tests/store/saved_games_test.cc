@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "people/grade_all_players.h"
 #include "platform/file_cipher.h"
 #include "small_dynasty.h"
@@ -93,7 +97,8 @@ TEST_F(SavedGamesTest, AFailedWriteLeavesTheEarlierSaveOfThatName) {
   // disk or a kill half-way.
   std::filesystem::create_directory(dynasty_.root() / "spring.CMR.cipher-tmp");
   EXPECT_FALSE(SaveGameFile(session(), save));
-  EXPECT_EQ(ui().Messages().back(), "Error in the encryption");
+  EXPECT_TRUE(ui().Messages().back().ends_with("The game was not saved."))
+      << ui().Messages().back();
   EXPECT_EQ(ReadBytes(save), earlier);
   ASSERT_TRUE(session().StoreOpen());
   EXPECT_EQ(*store().ScalarText("SELECT Name FROM HeadCoach"), "Later Coach");
@@ -101,6 +106,34 @@ TEST_F(SavedGamesTest, AFailedWriteLeavesTheEarlierSaveOfThatName) {
 
   ASSERT_EQ(LoadGameFile(session(), save, GradeAllPlayers), LoadOutcome::kLoaded);
   EXPECT_EQ(*store().ScalarText("SELECT Name FROM HeadCoach"), "Pat O'Neil");
+}
+
+// A candidate is checked without writing a byte (so a full or read-only
+// folder can't make a good save look invalid), and a file far too large to
+// be a save is refused from its size, before it is read.
+TEST_F(SavedGamesTest, CheckingACandidateWritesNothingAndAHugeFileIsRefusedUnread) {
+  const std::filesystem::path save = dynasty_.root() / "spring.CMR";
+  ASSERT_TRUE(SaveGameFile(session(), save));
+  auto files = [&] {
+    std::vector<std::string> names;
+    for (const auto& e : std::filesystem::recursive_directory_iterator(dynasty_.root())) {
+      names.push_back(e.path().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+  };
+  const auto before = files();
+  EXPECT_EQ(CheckSaveFile(session(), save), 1);
+  EXPECT_EQ(files(), before);
+
+  const std::string dynasty = dynasty_.Dump();
+  const std::filesystem::path huge = dynasty_.root() / "huge.CMR";
+  WriteBytes(huge, ReadBytes(save).substr(0, 4096));
+  std::filesystem::resize_file(huge, uintmax_t{2} << 30);  // sparse: no disk used
+  EXPECT_EQ(CheckSaveFile(session(), huge), 0);
+  EXPECT_EQ(ui().Messages().back(), kNotASaveGame);
+  EXPECT_EQ(LoadGameFile(session(), huge, GradeAllPlayers), LoadOutcome::kRefused);
+  EXPECT_EQ(dynasty_.Dump(), dynasty);
 }
 
 TEST_F(SavedGamesTest, SeasonFiguresAreWrittenOnlyDuringTheSeason) {
