@@ -24,7 +24,7 @@ BracketSide SideOf(const Slots& slots, int slot, const SeedOf& seeds) {
   BracketSide side;
   const auto it = slots.find(slot);
   if (it == slots.end()) return side;
-  side.school = SchoolOfEntry(it->second.school);
+  side.school = it->second.school;
   const auto seed = seeds.find(side.school);
   if (seed != seeds.end()) side.seed = seed->second;
   side.points = it->second.points;
@@ -43,7 +43,7 @@ std::string When(std::string_view day, int week) {
 
 std::string ChampionOf(const Slots& slots, int slot) {
   const auto it = slots.find(slot);
-  return it == slots.end() ? std::string() : SchoolOfEntry(it->second.school);
+  return it == slots.end() ? std::string() : it->second.school;
 }
 
 // ---- Conference tournaments ----
