@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
   courtmere::cli::AddPollCommand(app, context);
   courtmere::cli::AddCriCommand(app, context);
   courtmere::cli::AddAwardsCommand(app, context);
+  courtmere::cli::AddOptionsCommand(app, context);
 
   try {
     app.parse(argc, argv);
