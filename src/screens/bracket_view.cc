@@ -48,11 +48,12 @@ std::string ChampionOf(const Slots& slots, int slot) {
 
 // ---- Conference tournaments ----
 
-const char* ConfRoundTitle(std::string_view day) {
-  if (day == "Thursday") return "First round";
-  if (day == "Friday") return "Second round";
+// Thursday's games, when the field has any, are the first round and
+// Friday's the second; a field of 8 starts on Friday with its first round.
+const char* ConfRoundTitle(std::string_view day, bool firstRound) {
   if (day == "Saturday") return "Semifinals";
-  return "Final";
+  if (day == "Sunday") return "Final";
+  return firstRound ? "First round" : "Second round";
 }
 
 // ---- National tournaments ----
@@ -188,7 +189,7 @@ BracketView ConfBracketView(Store& store, const std::string& conference) {
   BracketSection section;
   for (std::string_view day : {"Thursday", "Friday", "Saturday", "Sunday"}) {
     const ConfRound& round = *ConfRoundOn(day);
-    BracketRound r{ConfRoundTitle(day), When(day, 16), {}};
+    BracketRound r{ConfRoundTitle(day, section.rounds.empty()), When(day, 16), {}};
     for (const SlotPair& pair : ConfPairsPlayed(round, field)) {
       r.games.push_back(MatchOf(slots, pair.home, slots, pair.away, seeds));
     }
