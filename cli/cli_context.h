@@ -59,5 +59,6 @@ void AddPollCommand(CLI::App& app, CliContext& context);
 void AddCriCommand(CLI::App& app, CliContext& context);
 void AddAwardsCommand(CLI::App& app, CliContext& context);
 void AddBracketCommand(CLI::App& app, CliContext& context);
+void AddOptionsCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -19,7 +19,8 @@ struct AwardsOptions {
   std::string conference;  // with --season: that conference's teams only
 };
 
-void PrintList(const AwardList& list, const std::string& firstColumn) {
+// Prints the list; true when a row is the user's school's.
+bool PrintList(const AwardList& list, const std::string& firstColumn) {
   fmt::print("{}\n", list.Title);
   TextTable table;
   table.AddColumn("", firstColumn, TextTable::kRight);
@@ -29,26 +30,29 @@ void PrintList(const AwardList& list, const std::string& firstColumn) {
   for (const char* figure : {"PPG", "RPG", "APG", "SPG", "BPG", "TOPG"}) {
     table.AddColumn("", figure, TextTable::kRight);
   }
+  bool marked = false;
   for (const AwardRow& r : list.Rows) {
     table.AddRow({std::to_string(r.WeekNo), r.Name, r.Team, r.Position, FormatOneDecimal(r.PPG),
                   FormatOneDecimal(r.RPG), FormatOneDecimal(r.APG), FormatOneDecimal(r.SPG),
                   FormatOneDecimal(r.BPG), FormatOneDecimal(r.TOPG)});
     if (r.User) table.MarkLastRow('*');
+    marked = marked || r.User;
   }
   fmt::print("{}\n", table.Render());
+  return marked;
 }
 
-void PrintWeeks(Session& session, const std::string& school, std::optional<int> week) {
+bool PrintWeeks(Session& session, const std::string& school, std::optional<int> week) {
   const AwardList list = PlayersOfWeek(session.Db(), school, week.value_or(0));
   if (list.Rows.empty()) {
     session.ui.Message(week ? fmt::format("No Player of the Week was named in week {}.", *week)
                             : std::string("No Player of the Week has been named yet."));
     throw Refusal{};
   }
-  PrintList(list, "Week");
+  return PrintList(list, "Week");
 }
 
-void PrintSeason(Session& session, const std::string& school, const std::string& conference) {
+bool PrintSeason(Session& session, const std::string& school, const std::string& conference) {
   Store& store = session.Db();
   std::vector<AwardList> lists;
   if (!conference.empty()) {
@@ -66,21 +70,20 @@ void PrintSeason(Session& session, const std::string& school, const std::string&
     session.ui.Message("The season's honours are named at the end of week 15.");
     throw Refusal{};
   }
+  bool marked = false;
   for (const AwardList& list : lists) {
     // A team's slot, or a player of the year's position.
-    PrintList(list, list.Rows.size() == 1 ? "Pos." : "Slot");
+    marked = PrintList(list, list.Rows.size() == 1 ? "Pos." : "Slot") || marked;
   }
+  return marked;
 }
 
 void RunAwards(CliContext& context, const AwardsOptions& options) {
   Session& session = context.StartSession();
   const std::string school = RequireDynasty(session);
-  if (options.season) {
-    PrintSeason(session, school, options.conference);
-  } else {
-    PrintWeeks(session, school, options.week);
-  }
-  fmt::print("* your school\n");
+  const bool marked = options.season ? PrintSeason(session, school, options.conference)
+                                     : PrintWeeks(session, school, options.week);
+  if (marked) fmt::print("* your school\n");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include "cli_context.h"
+#include "league/ranking_weeks.h"
 #include "screens/cri_list.h"
 #include "text_table.h"
 
@@ -14,13 +15,13 @@ void RunCri(CliContext& context) {
   const std::string school = RequireDynasty(session);
   const Config& c = session.config;
   const CriList list = ShowCRI(session.Db(), school);
-  // During a season the index stands from the end of week 5; rows before it
-  // are last season's.
-  if (list.Rows.empty() || (c.Stage == kStageSeason && c.CurrWeek <= 5)) {
+  // Before this season's first index the rows, if any, are last season's.
+  const int week = LatestCriWeek(c);
+  if (list.Rows.empty() || week == 0) {
     session.ui.Message("The College Rating Index is released at the end of week 5.");
     throw Refusal{};
   }
-  fmt::print("{}: week {}, {}\n\n", list.Title, c.CurrWeek, c.CurrYear);
+  fmt::print("{}: week {}, {}\n\n", list.Title, week, c.CurrYear);
   TextTable table;
   table.AddColumn("", "Rank", TextTable::kRight);
   table.AddColumn("", "Team", TextTable::kLeft);

@@ -2,6 +2,8 @@
 // season: a numbered list of senders and subjects, then each letter.
 #include <fmt/format.h>
 
+#include <optional>
+
 #include "season/calendar.h"
 #include "season_command.h"
 #include "text_table.h"
@@ -10,11 +12,11 @@ namespace courtmere::cli {
 
 namespace {
 
-void RunInbox(CliContext& context, int week) {
+void RunInbox(CliContext& context, std::optional<int> asked) {
   Session& session = context.StartSession();
   RequireDynasty(session);
   const Config& c = session.config;
-  if (week == 0) week = WeekOfLastStep(c.CurrWeek, c.CurrDay);
+  const int week = asked.value_or(WeekOfLastStep(c.CurrWeek, c.CurrDay));
   if (week < 1 || week > kSeasonOverWeek) {
     session.ui.Message(fmt::format("There is no week {} in a season.", week));
     throw Refusal{};
@@ -41,7 +43,7 @@ void RunInbox(CliContext& context, int week) {
 }  // namespace
 
 void AddInboxCommand(CLI::App& app, CliContext& context) {
-  auto week = std::make_shared<int>(0);
+  auto week = std::make_shared<std::optional<int>>();
   CLI::App* cmd = app.add_subcommand("inbox", "The inbox: the letters of the week");
   cmd->add_option("--week", *week, "The week to list (default: the week last played)");
   cmd->callback([&context, week] { RunInbox(context, *week); });

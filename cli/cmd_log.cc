@@ -14,8 +14,10 @@ void RunLog(CliContext& context, int gameNo) {
   RequireDynasty(session);
   const PlayedGame game = RequirePlayedGame(session, gameNo);
   PrintGameFile(session, GameLogFile(session.Db(), gameNo, game.conference),
-                fmt::format("No play-by-play log was kept for game {} (only the user's games "
-                            "played with View Play-By-Play on have one).",
+                fmt::format("No play-by-play log was kept for game {}: only the user's games "
+                            "played with View Play-By-Play on have one. Turn it on with "
+                            "\"courtmere-cli options --play-by-play on\" before the games are "
+                            "played.",
                             gameNo));
 }
 

@@ -1,25 +1,16 @@
 // courtmere-cli poll: the Top 25 as the poll screen shows it.
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <optional>
 
 #include "cli_context.h"
+#include "league/ranking_weeks.h"
 #include "screens/top25.h"
 #include "text_table.h"
 
 namespace courtmere::cli {
 
 namespace {
-
-// The week whose end the poll in Ranking stands for: 0 for the poll of the
-// season's start, never 5 (that week has no poll), at most 16.
-int PollWeek(const Config& c) {
-  if (c.Stage == kStagePostTraining) return 16;
-  int week = std::min(c.CurrWeek - 1, 16);
-  if (week == 5) week = 4;
-  return std::max(week, 0);
-}
 
 std::string WeekName(int week) {
   return week == 0 ? "Preseason" : fmt::format("Week {}", week);
@@ -30,7 +21,7 @@ std::string WeekName(int week) {
 void RunPoll(CliContext& context, std::optional<int> week) {
   Session& session = context.StartSession();
   const std::string school = RequireDynasty(session);
-  const int current = PollWeek(session.config);
+  const int current = LatestPollWeek(session.config);
   const Top25 poll = ShowTop25(session.Db(), school);
   if (poll.Rows.empty()) {
     session.ui.Message("No poll has been released yet.");
@@ -48,14 +39,16 @@ void RunPoll(CliContext& context, std::optional<int> week) {
   table.AddColumn("", "Record", TextTable::kRight);
   table.AddColumn("", "Points", TextTable::kRight);
   table.AddColumn("", "Previous", TextTable::kRight);
+  bool marked = false;
   for (const Top25Row& r : poll.Rows) {
     table.AddRow({std::to_string(r.Rank), r.Team, r.Record, std::to_string(r.Points),
                   std::to_string(r.Previous)});
     if (r.User) table.MarkLastRow('*');
+    marked = marked || r.User;
   }
   fmt::print("{}", table.Render());
   if (!poll.Votes.empty()) fmt::print("\nOthers receiving votes: {}\n", poll.Votes);
-  fmt::print("\n* your school\n");
+  if (marked) fmt::print("\n* your school\n");
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 // courtmere-cli schedule: the season's schedule rows, played or not, from
-// every schedule table, filtered by school, week or conference.
+// every schedule table, filtered by week or conference; or, with --school,
+// that school's schedule as the desktop's schedule screen shows it.
 #include <fmt/format.h>
 
 #include <algorithm>
 
 #include "cli_context.h"
 #include "schedule/calendar_slots.h"
+#include "screens/team_schedule.h"
 #include "text_table.h"
 
 namespace courtmere::cli {
@@ -49,11 +51,9 @@ std::vector<Game> ReadGames(Store& store, const ScheduleOptions& o) {
   for (const auto& [table, condition] : Sources(store, o.conference)) {
     const std::string sql =
         "SELECT Week, GameDay, GameNo, HomeTeam, AwayTeam, GameType, HomeScore, AwayScore FROM " +
-        table + " WHERE (? = '' OR HomeTeam = ? OR AwayTeam = ?) AND (? = 0 OR Week = ?)" +
-        condition;
-    Rows rows = condition.empty() ? store.Query(sql, o.school, o.school, o.school, o.week, o.week)
-                                  : store.Query(sql, o.school, o.school, o.school, o.week, o.week,
-                                                o.conference, o.conference);
+        table + " WHERE (? = 0 OR Week = ?)" + condition;
+    Rows rows = condition.empty() ? store.Query(sql, o.week, o.week)
+                                  : store.Query(sql, o.week, o.week, o.conference, o.conference);
     while (rows.Next()) {
       games.push_back({rows.Int(0), rows.Text(1), rows.Int(2), rows.Text(3), rows.Text(4),
                        rows.Text(5), rows.Int(6), rows.Int(7)});
@@ -81,10 +81,40 @@ void CheckOptions(Session& session, const ScheduleOptions& o) {
   }
 }
 
+// One school's season as the desktop's schedule screen lists it: every game
+// it plays, the national tournaments' included, in calendar order, with the
+// site, the opponent and the result from the school's side.
+void PrintSchoolSchedule(Store& store, const ScheduleOptions& o) {
+  std::vector<ScheduleGame> games = TeamSchedule(store, o.school);
+  std::erase_if(games, [&o](const ScheduleGame& g) { return o.week != 0 && g.Week != o.week; });
+  fmt::print("{} Schedule\n", o.school);
+  if (games.empty()) {
+    fmt::print("No Games\n");
+    return;
+  }
+  TextTable table;
+  table.AddColumn("Week", "", TextTable::kRight);
+  table.AddColumn("Day", "", TextTable::kLeft);
+  table.AddColumn("Game", "", TextTable::kRight);
+  table.AddColumn("Site", "", TextTable::kLeft);
+  table.AddColumn("Opponent", "", TextTable::kLeft);
+  table.AddColumn("Type", "", TextTable::kLeft);
+  table.AddColumn("Result", "", TextTable::kLeft);
+  for (const ScheduleGame& g : games) {
+    table.AddRow({std::to_string(g.Week), g.Day, std::to_string(g.GameNo), g.Site, g.Opponent,
+                  g.GameType, ResultText(g)});
+  }
+  fmt::print("{}", table.Render());
+}
+
 void RunSchedule(CliContext& context, const ScheduleOptions& options) {
   Session& session = context.StartSession();
   RequireDynasty(session);
   CheckOptions(session, options);
+  if (!options.school.empty()) {
+    PrintSchoolSchedule(session.Db(), options);
+    return;
+  }
   const std::vector<Game> games = ReadGames(session.Db(), options);
   if (games.empty()) {
     fmt::print("No Games\n");
@@ -113,10 +143,13 @@ void AddScheduleCommand(CLI::App& app, CliContext& context) {
   auto options = std::make_shared<ScheduleOptions>();
   CLI::App* cmd = app.add_subcommand(
       "schedule", "List the season's games, played or not, with the score of those played");
-  cmd->add_option("--school", options->school, "Only this school's games");
+  CLI::Option* school = cmd->add_option(
+      "--school", options->school,
+      "One school's games as its schedule screen lists them, the national tournaments' included");
   cmd->add_option("--week", options->week, "Only this week's games")->check(CLI::Range(1, 21));
   cmd->add_option("--conference", options->conference,
-                  "Only this conference's games and its schools' non-conference games");
+                  "Only this conference's games and its schools' non-conference games")
+      ->excludes(school);
   cmd->callback([&context, options] { RunSchedule(context, *options); });
 }
 

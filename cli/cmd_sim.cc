@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "league/national_tourneys.h"
+#include "league/ranking_weeks.h"
 #include "season/calendar.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
@@ -51,10 +52,11 @@ int PlayedGamesOfWeek(Store& store, int week) {
   return static_cast<int>(games);
 }
 
+// A week's line: its games and the poll released at its end, if any.
 void PrintWeek(Store& store, int week) {
-  const std::string top = PollTopFive(store);
-  fmt::print("Week {:>2}: {:>4} games{}{}\n", week, PlayedGamesOfWeek(store, week),
-             top.empty() ? "" : "; poll: ", top);
+  const std::string top = PollAtEndOf(week) ? PollTopFive(store) : std::string();
+  fmt::print("Week {:>2}: {:>4} games; {}\n", week, PlayedGamesOfWeek(store, week),
+             top.empty() ? "no poll" : "poll: " + top);
 }
 
 // The day just played as the Today's Games screen lists it.

@@ -1,7 +1,9 @@
-// courtmere-cli standings: a conference's standings, or the nation's.
+// courtmere-cli standings: a conference's standings (the user's, as the
+// standings screen opens), or the nation's.
 #include <fmt/format.h>
 
 #include "cli_context.h"
+#include "league/head_coach.h"
 #include "league/standings.h"
 #include "text_table.h"
 
@@ -44,11 +46,17 @@ void PrintTable(const StandingsTable& t, bool national) {
   fmt::print("{}", table.Render());
 }
 
-void RunStandings(CliContext& context, const std::string& conference) {
+struct StandingsOptions {
+  std::string conference;  // empty: the user's
+  bool national = false;
+};
+
+void RunStandings(CliContext& context, const StandingsOptions& o) {
   Session& session = context.StartSession();
   RequireDynasty(session);
   Store& store = session.Db();
-  const bool national = conference.empty();
+  const bool national = o.national;
+  const std::string conference = o.conference.empty() ? HumanConference(store) : o.conference;
   if (!national) RequireConference(session, conference);
   const Standings s = national ? NationalStandings(store) : ConferenceStandings(store, conference);
   const Config& c = session.config;
@@ -64,11 +72,14 @@ void RunStandings(CliContext& context, const std::string& conference) {
 }  // namespace
 
 void AddStandingsCommand(CLI::App& app, CliContext& context) {
-  auto conference = std::make_shared<std::string>();
+  auto options = std::make_shared<StandingsOptions>();
   CLI::App* cmd =
       app.add_subcommand("standings", "Show a conference's standings, or the national ones");
-  cmd->add_option("--conference", *conference, "The conference (default: the whole nation)");
-  cmd->callback([&context, conference] { RunStandings(context, *conference); });
+  CLI::Option* conference =
+      cmd->add_option("--conference", options->conference, "The conference (default: your own)");
+  cmd->add_flag("--national", options->national, "Every school of the nation in one table")
+      ->excludes(conference);
+  cmd->callback([&context, options] { RunStandings(context, *options); });
 }
 
 }  // namespace courtmere::cli

@@ -70,7 +70,8 @@ int RecordBracketGames(Store& store, const BracketTable& table, const std::strin
     const bool homeWon = score->home > score->away;
     WriteSlotResult(store, table, game.home.group, game.home.slot, score->home, homeWon);
     WriteSlotResult(store, table, game.away.group, game.away.slot, score->away, !homeWon);
-    const std::string& winner = homeWon ? sides->homeName : sides->awayName;
+    // The winner goes on as the school: its seed stays with its first game.
+    const std::string& winner = homeWon ? sides->home.school : sides->away.school;
     const std::string host = game.host.value_or(sides->home.host);
     InsertSlot(store, table, game.target.group, game.target.slot, winner, host);
     ++played;

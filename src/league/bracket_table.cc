@@ -2,8 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <cctype>
-
+#include "league/seeded_name.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -55,17 +54,9 @@ void WriteSlotResult(Store& store, const BracketTable& table, std::string_view g
              points, won ? 1 : 0, group, slot);
 }
 
-std::string GameName(const BracketTable& table, int slot, const std::string& stored) {
-  if (table.seedNames && slot <= kLastSeedSlot) return fmt::format("{}. {}", slot, stored);
-  return stored;
-}
-
-std::string SchoolOfEntry(std::string_view name) {
-  if (name.empty() || !std::isdigit(static_cast<unsigned char>(name.front()))) {
-    return std::string(name);
-  }
-  const size_t blank = name.find(' ');
-  return std::string(blank == std::string_view::npos ? name : name.substr(blank + 1));
+std::string GameName(const BracketTable& table, int slot, const std::string& school) {
+  if (table.seedNames && slot <= kLastSeedSlot) return SeededName{slot, school}.Text();
+  return school;
 }
 
 }  // namespace courtmere

@@ -16,8 +16,9 @@ class Store;
 struct BracketTable {
   std::string_view name;  // the table
   bool hasHost = false;   // it has a HostCity column
-  // The NCT's games name a seed's team "<seed>. <school>", and a winner keeps
-  // that name in the slots above.
+  // The NCT's first-weekend games name a seed's team "<seed>. <school>"; a
+  // winner goes on under the school's name alone, so no later game carries
+  // a seed.
   bool seedNames = false;
 };
 
@@ -29,7 +30,7 @@ inline constexpr BracketTable kActTourney{"ACTTourney", false, false};
 inline constexpr int kLastSeedSlot = 16;
 
 struct SlotRow {
-  std::string school;  // as stored: a seed's school, or the name a winner played under
+  std::string school;
   std::string host;
   int points = 0;
   int bold = 0;
@@ -50,11 +51,7 @@ void WriteSlotResult(Store& store, const BracketTable& table, std::string_view g
                      int points, bool won);
 
 // The name the team of `slot` plays under: "<seed>. <school>" for a seed of
-// the NCT, the stored name otherwise.
-std::string GameName(const BracketTable& table, int slot, const std::string& stored);
-
-// The school behind a game name: the name without its "<seed>. " prefix.
-// School names never begin with a digit, so a plain name stays whole.
-std::string SchoolOfEntry(std::string_view name);
+// the NCT, the school otherwise.
+std::string GameName(const BracketTable& table, int slot, const std::string& school);
 
 }  // namespace courtmere

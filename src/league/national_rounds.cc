@@ -95,7 +95,7 @@ std::array<std::string, 4> RegionChampions(Store& store, const NationalTourney& 
   for (size_t i = 0; i < kRegionsBySite.size(); ++i) {
     const std::optional<SlotRow> row = ReadSlot(
         store, tourney.table, RegionGroup(tourney.format, kRegionsBySite[i]), kRegionChampionSlot);
-    if (row) schools[i] = SchoolOfEntry(row->school);
+    if (row) schools[i] = row->school;
   }
   return schools;
 }
@@ -193,7 +193,7 @@ std::optional<std::string> NationalChampion(Store& store, const NationalTourney&
   const std::optional<SlotRow> row =
       ReadSlot(store, tourney.table, tourney.format.finalsGroup, kChampionSlot);
   if (!row) return std::nullopt;
-  return SchoolOfEntry(row->school);
+  return row->school;
 }
 
 }  // namespace courtmere

@@ -26,7 +26,7 @@ BracketSide SideOf(const Slots& slots, int slot, const SeedOf& seeds) {
   BracketSide side;
   const auto it = slots.find(slot);
   if (it == slots.end()) return side;
-  side.school = SchoolOfEntry(it->second.school);
+  side.school = it->second.school;
   const auto seed = seeds.find(side.school);
   if (seed != seeds.end()) side.seed = seed->second;
   side.points = it->second.points;
@@ -56,16 +56,17 @@ std::string When(std::string_view day, int week) {
 
 std::string ChampionOf(const Slots& slots, int slot) {
   const auto it = slots.find(slot);
-  return it == slots.end() ? std::string() : SchoolOfEntry(it->second.school);
+  return it == slots.end() ? std::string() : it->second.school;
 }
 
 // ---- Conference tournaments ----
 
-const char* ConfRoundTitle(std::string_view day) {
-  if (day == "Thursday") return "First round";
-  if (day == "Friday") return "Quarterfinals";
+// Thursday's games, when the field has any, are the first round and
+// Friday's the second; a field of 8 starts on Friday with its first round.
+const char* ConfRoundTitle(std::string_view day, bool firstRound) {
   if (day == "Saturday") return "Semifinals";
-  return "Final";
+  if (day == "Sunday") return "Final";
+  return firstRound ? "First round" : "Second round";
 }
 
 // ---- National tournaments ----
@@ -259,7 +260,7 @@ BracketView ConfBracketView(Store& store, const std::string& conference) {
   std::vector<BracketRound> rounds;
   for (std::string_view day : {"Thursday", "Friday", "Saturday", "Sunday"}) {
     const ConfRound& round = *ConfRoundOn(day);
-    BracketRound r{ConfRoundTitle(day), When(day, 16), {}};
+    BracketRound r{ConfRoundTitle(day, rounds.empty()), When(day, 16), {}};
     const std::span<const SlotPair> pairs = ConfPairsPlayed(round, field);
     for (size_t i = 0; i < pairs.size(); ++i) {
       r.games.push_back(MatchOf(slots, pairs[i].home, slots, pairs[i].away,

@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cctype>
 #include <tuple>
 
+#include "league/seeded_name.h"
 #include "schedule/calendar_slots.h"
 #include "store/store.h"
 
@@ -16,9 +16,9 @@ bool HasHome(std::string_view gameType) {
   return gameType == "Conference" || gameType == "NonConference";
 }
 
-// A row of a conference's table names a school seeded in a national
-// tournament as "<seed>. <school>": such rows are found by their ending and
-// checked once the seed is cut.
+// A row of the NCT's first weekend names a school with its seed, "<seed>.
+// <school>": such rows are found by their ending and checked once the seed
+// is cut.
 void ReadTable(Store& store, const std::string& table, const std::string& school,
                std::vector<ScheduleGame>& games) {
   Rows rows = store.Query(
@@ -29,8 +29,8 @@ void ReadTable(Store& store, const std::string& table, const std::string& school
           "OR AwayTeam LIKE '%. ' || ?1",
       school);
   while (rows.Next()) {
-    const std::string home(WithoutSeed(rows.TextView(4)));
-    const std::string away(WithoutSeed(rows.TextView(5)));
+    const std::string home = SeededName::Parse(rows.TextView(4)).school;
+    const std::string away = SeededName::Parse(rows.TextView(5)).school;
     if (home != school && away != school) continue;
     ScheduleGame g;
     g.GameNo = rows.Int(0);
@@ -51,13 +51,6 @@ void ReadTable(Store& store, const std::string& table, const std::string& school
 }
 
 }  // namespace
-
-std::string_view WithoutSeed(std::string_view name) {
-  size_t digits = 0;
-  while (digits < name.size() && std::isdigit(static_cast<unsigned char>(name[digits]))) ++digits;
-  if (digits == 0 || name.substr(digits, 2) != ". ") return name;
-  return name.substr(digits + 2);
-}
 
 std::vector<ScheduleGame> TeamSchedule(Store& store, const std::string& school) {
   std::vector<ScheduleGame> games;

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace courtmere {
@@ -33,8 +32,5 @@ std::vector<ScheduleGame> TeamSchedule(Store& store, const std::string& school);
 
 // "W 78-70", "L 61-64", or "" before the game.
 std::string ResultText(const ScheduleGame& game);
-
-// A tournament name as the row holds it, "3. Duke", without its seed.
-std::string_view WithoutSeed(std::string_view name);
 
 }  // namespace courtmere

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "season/seeded_name.h"
+#include "league/seeded_name.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -64,7 +64,8 @@ std::vector<DayRow> ListedRows(Session& session, const CalendarDay& day) {
 }
 
 bool IsUsersRow(const DayRow& row, const std::string& school) {
-  return SplitSeed(row.HomeTeam).school == school || SplitSeed(row.AwayTeam).school == school;
+  return SeededName::Parse(row.HomeTeam).school == school ||
+         SeededName::Parse(row.AwayTeam).school == school;
 }
 
 void WorkOutButtons(Session& session, DayScreen& screen) {

@@ -1,5 +1,6 @@
 #include "season/end_season.h"
 
+#include "league/season_marks.h"
 #include "league/team_ratings.h"
 #include "season/recruiting_week.h"
 #include "season/season_history.h"
@@ -23,8 +24,9 @@ void SaveHistory(SeasonRun& run) {
   }
   session.ui.ShowProgress("Saving Team Stats");
   TeamRatings(session);
+  if (history.Active()) history.SaveTeamHistory(session);
+  ClearSeasonMarks(session.Db());
   if (history.Active()) {
-    history.SaveTeamHistory(session);
     session.ui.ShowProgress("Updating Records");
     history.UpdateRecords(session);
   }

@@ -6,10 +6,10 @@
 #include "engine/box_score.h"
 #include "engine/post_game.h"
 #include "engine/run_engine.h"
+#include "league/seeded_name.h"
 #include "season/schedule_tables.h"
 #include "season/season_observer.h"
 #include "season/season_run.h"
-#include "season/seeded_name.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -128,8 +128,8 @@ void ShowOnTicker(SeasonRun& run, const std::string& home, const std::string& aw
 
 // One listed game's request: the first row live when the user coaches it.
 GameRequest ListedRequest(const SeasonRun& run, const DayRow& row, int index) {
-  const SeededName home = SplitSeed(row.HomeTeam);
-  const SeededName away = SplitSeed(row.AwayTeam);
+  const SeededName home = SeededName::Parse(row.HomeTeam);
+  const SeededName away = SeededName::Parse(row.AwayTeam);
   GameRequest request;
   request.HomeTeam = home.school;
   request.AwayTeam = away.school;

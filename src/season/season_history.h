@@ -19,7 +19,8 @@ class SeasonHistory {
   virtual bool Active() const { return false; }
 
   virtual void SaveCareerStats(Session&) {}
-  // After the team ratings, so that Prestige is the new one.
+  // After the team ratings, so that Prestige is the new one, and before
+  // the driver clears the year's titles (ClearSeasonMarks).
   virtual void SaveTeamHistory(Session&) {}
   virtual void UpdateRecords(Session&) {}
 };

@@ -36,11 +36,16 @@ cmp -s "$work/before.dat" "$work/b/mereball.dat" || fail "a refused command chan
 run 2 --home "$work/empty" start-season
 run 0 --home "$work/a" start-season
 expect "week 1, Thursday, stage Season"
+# The standings open on the user's conference, as the screen does.
 run 0 --home "$work/a" standings
-expect "National Standings: week 1, Thursday, 2001, stage Season"
+expect "Big East Standings: week 1, Thursday, 2001, stage Season"
 expect "* St. John's"
-run 0 --home "$work/a" standings --conference "Big East"
-expect "Big East Standings"
+[[ $out != *"Drake"* ]] || fail "the user's conference standings list another conference's school"
+run 0 --home "$work/a" standings --national
+expect "National Standings: week 1, Thursday, 2001, stage Season"
+expect "Drake"
+run 0 --home "$work/a" standings --conference "MVC"
+expect "MVC Standings"
 run 0 --home "$work/a" teams --conference "Big East"
 expect "Human"
 run 2 --home "$work/a" start-season

@@ -7,9 +7,9 @@
 #include "cpu/computer_roster.h"
 #include "engine/game_model.h"
 #include "engine/run_engine.h"
-#include "league/bracket_table.h"
 #include "league/conf_tourney.h"
 #include "league/national_tourneys.h"
+#include "league/seeded_name.h"
 #include "schedule/calendar_slots.h"
 
 namespace courtmere::testing {
@@ -135,7 +135,8 @@ int PostseasonFixture::PlayDay(const std::string& table, int week, const std::st
     int away = 0;
     if (scores_ == Scores::kEngine) {
       Game game(session());
-      GameRequest request{SchoolOfEntry(g.home), SchoolOfEntry(g.away), g.type, ++index, g.gameNo};
+      GameRequest request{SeededName::Parse(g.home).school, SeededName::Parse(g.away).school,
+                          g.type, ++index, g.gameNo};
       request.WriteFiles = false;
       std::string box;
       std::string log = "none";

@@ -8,9 +8,9 @@
 #include <map>
 #include <set>
 
-#include "league/bracket_table.h"
 #include "league/national_tourneys.h"
 #include "league/postseason_fixture.h"
+#include "league/seeded_name.h"
 
 namespace courtmere {
 namespace {
@@ -22,8 +22,12 @@ struct GameRow {
   int week;
   std::string day, home, away, type;
   int homeScore, awayScore;
-  std::string Winner() const { return SchoolOfEntry(homeScore > awayScore ? home : away); }
-  std::string Loser() const { return SchoolOfEntry(homeScore > awayScore ? away : home); }
+  std::string Winner() const {
+    return SeededName::Parse(homeScore > awayScore ? home : away).school;
+  }
+  std::string Loser() const {
+    return SeededName::Parse(homeScore > awayScore ? away : home).school;
+  }
 };
 
 std::vector<GameRow> Games(Store& store, const std::string& table, const std::string& where) {
@@ -170,8 +174,8 @@ TEST_P(WholePostseason, NoTeamPlaysTwiceOnOneDay) {
   for (const std::string& table : tables) {
     for (const GameRow& g : Games(store(), table, "Week >= 16")) {
       for (const std::string& side : {g.home, g.away}) {
-        EXPECT_TRUE(seen.insert({g.week, g.day, SchoolOfEntry(side)}).second)
-            << SchoolOfEntry(side) << " twice on " << g.day << " of week " << g.week;
+        EXPECT_TRUE(seen.insert({g.week, g.day, SeededName::Parse(side).school}).second)
+            << SeededName::Parse(side).school << " twice on " << g.day << " of week " << g.week;
       }
     }
   }

@@ -2,6 +2,7 @@
 // leader boards from the season's figures, and the injury report.
 #include <gtest/gtest.h>
 
+#include "league/seeded_name.h"
 #include "people/league_fixture.h"
 #include "screens/injuries.h"
 #include "screens/leaders.h"
@@ -75,11 +76,17 @@ TEST_F(SeasonDisplaysTest, AScheduleGathersEveryTableInCalendarOrder) {
   EXPECT_EQ(ResultText(games[4]), "L 50-90");
 }
 
-TEST_F(SeasonDisplaysTest, SeedsAreCutOnlyFromANumberFollowedByAPoint) {
-  EXPECT_EQ(WithoutSeed("12. St. John's"), "St. John's");
-  EXPECT_EQ(WithoutSeed("St. John's"), "St. John's");
-  EXPECT_EQ(WithoutSeed("76ers. Tech"), "76ers. Tech");
-  EXPECT_EQ(WithoutSeed("3 Rivers"), "3 Rivers");
+TEST(SeededNameTest, ASeedIsANumberFollowedByAPointAndComesBackAsItWas) {
+  const SeededName seeded = SeededName::Parse("12. St. John's");
+  EXPECT_EQ(seeded.seed, 12);
+  EXPECT_EQ(seeded.school, "St. John's");
+  EXPECT_EQ(seeded.Text(), "12. St. John's");
+  for (const char* school : {"St. John's", "76ers. Tech", "3 Rivers", "123. Academy"}) {
+    const SeededName plain = SeededName::Parse(school);
+    EXPECT_EQ(plain.seed, 0) << school;
+    EXPECT_EQ(plain.school, school);
+    EXPECT_EQ(plain.Text(), school);
+  }
 }
 
 class LeadersTest : public SeasonDisplaysTest {

@@ -1,17 +1,21 @@
 // A whole season played press by press from a freshly started dynasty: every
 // game of the schedule and of the tournaments has its score, no team plays
 // twice on a day, the records in TeamStats are the schedule's, the rankings,
-// awards and champions are there, and the season ends in "Season Over" on
-// Monday of week 21.
+// awards and champions are there, the seeds' court edge is given on the
+// NCT's first day alone, the season ends in "Season Over" on Monday of week
+// 21, and End Season clears the year's titles.
 #include <gtest/gtest.h>
 
 #include <map>
 #include <set>
 #include <tuple>
 
+#include "engine/run_engine.h"
+#include "league/national_rounds.h"
 #include "league/national_tourneys.h"
+#include "league/seeded_name.h"
+#include "season/end_season.h"
 #include "season/schedule_tables.h"
-#include "season/seeded_name.h"
 #include "season_fixture.h"
 
 namespace courtmere::testing {
@@ -35,8 +39,8 @@ std::vector<Result> AllGames(Store& store) {
                               table);
          r.Next();) {
       // National-tournament rows carry the seed before the school.
-      games.push_back({r.Int(0), r.Text(1), SplitSeed(r.Text(2)).school,
-                       SplitSeed(r.Text(3)).school, r.Text(4), r.Int(5), r.Int(6)});
+      games.push_back({r.Int(0), r.Text(1), SeededName::Parse(r.Text(2)).school,
+                       SeededName::Parse(r.Text(3)).school, r.Text(4), r.Int(5), r.Int(6)});
     }
   }
   return games;
@@ -99,12 +103,59 @@ void ExpectRecordsAreTheScheduleResults(Store& store) {
   EXPECT_EQ(wins - winsOverBackground, losses - lossesToBackground);
 }
 
+// What the batch handed the engine for one game.
+struct Played {
+  int week;
+  std::string day;
+  int gameNo;
+  std::string type;
+  int courtEdge;
+};
+
+// The seeds' court edge by the first weekend's rows, as the user's table
+// holds them: every NCT game has 0 but Thursday's 1-16 (+2), 4-13 and
+// 5-12 (-2) of week 17; Friday's pairings have none either.
+void ExpectCourtEdgeOnlyOnTheFirstNctRound(Store& store, const std::vector<Played>& played) {
+  const std::string table = PostseasonScheduleTable(store);
+  const std::map<std::pair<int, int>, int> edges = {{{1, 16}, 2}, {{4, 13}, -2}, {{5, 12}, -2}};
+  int thursdayEdges = 0;
+  int nctGames = 0;
+  for (const Played& g : played) {
+    if (g.week < 17 || g.type.starts_with("ACT")) {
+      EXPECT_EQ(g.courtEdge, 0) << g.type << " game " << g.gameNo << " in week " << g.week;
+      continue;
+    }
+    ++nctGames;
+    Rows row =
+        store.Query("SELECT HomeTeam, AwayTeam FROM " + table + " WHERE GameNo = ?", g.gameNo);
+    ASSERT_TRUE(row.Next()) << g.gameNo;
+    const SeededName home = SeededName::Parse(row.Text(0));
+    const SeededName away = SeededName::Parse(row.Text(1));
+    const bool firstWeekend = g.week == 17 && (g.day == "Thursday" || g.day == "Friday");
+    EXPECT_EQ(home.seed > 0 && away.seed > 0, firstWeekend) << row.Text(0) << " v " << row.Text(1);
+    const auto edge = edges.find({home.seed, away.seed});
+    const int expected = firstWeekend && edge != edges.end() ? edge->second : 0;
+    EXPECT_EQ(g.courtEdge, expected)
+        << row.Text(0) << " v " << row.Text(1) << ", " << g.day << " of week " << g.week;
+    if (g.day == "Thursday" && g.week == 17 && g.courtEdge != 0) ++thursdayEdges;
+  }
+  EXPECT_EQ(nctGames, 63);
+  EXPECT_EQ(thursdayEdges, 12);  // three pairings of each region
+}
+
 using WholeSeason = SeasonFixture;
 
 // The user's chart is kept by the computer, as the command-line tool keeps
 // it, so that his injured men do not stop the season at the guard.
-TEST_F(WholeSeason, PlayedPressByPressToSeasonOver) {
+TEST_F(WholeSeason, PlayedPressByPressToSeasonOverAndEnded) {
   run().cpuSetsUserTeam = true;
+  std::vector<Played> played;
+  run().runGame = [this, &played](Game& game, DayResults& day, const GameRequest& request,
+                                  std::string& box, std::string& log) {
+    played.push_back(
+        {config().CurrWeek, config().CurrDay, request.GameNo, request.GameType, request.CourtEdge});
+    return RunEngine(game, day, request, box, log);
+  };
   SimTo(21, "Monday");
   EXPECT_EQ(config().Stage, "Season Over");
   EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");
@@ -119,8 +170,22 @@ TEST_F(WholeSeason, PlayedPressByPressToSeasonOver) {
   EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week'"), 14);
   EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week' AND WeekNo = 5"), 0);
   EXPECT_TRUE(NctChampion(store()).has_value());
-  EXPECT_EQ(Count("SELECT count(*) FROM Team WHERE Winner = 1"),
+  EXPECT_EQ(Count("SELECT count(*) FROM Team WHERE Winner IN (1, 3)"),
             Count("SELECT count(*) FROM League WHERE SchedType <> ''"));
+  ExpectCourtEdgeOnlyOnTheFirstNctRound(store(), played);
+
+  // The season's end clears the year's titles of the first division, so no
+  // champion keeps an automatic bid into the next season; the background
+  // conferences keep their qualifiers.
+  const int64_t qualifiers = Count("SELECT count(*) FROM ScrubTeam WHERE Winner = 1");
+  EXPECT_GT(Count("SELECT count(*) FROM Team WHERE Winner > 0 OR NCTFinalFour > 0 OR "
+                  "ACTWinner > 0 OR ACTFinalFour > 0"),
+            0);
+  ASSERT_EQ(EndSeason(run()), SeasonEnd::kEnded);
+  EXPECT_EQ(Count("SELECT count(*) FROM Team WHERE Winner <> 0 OR NCTFinalFour <> 0 OR "
+                  "ACTWinner <> 0 OR ACTFinalFour <> 0"),
+            0);
+  EXPECT_EQ(Count("SELECT count(*) FROM ScrubTeam WHERE Winner = 1"), qualifiers);
 }
 
 }  // namespace
