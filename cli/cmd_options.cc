@@ -72,9 +72,9 @@ void AddOptionsCommand(CLI::App& app, CliContext& context) {
                   "Save every game's box score to disk, not only the user's list's (on|off)")
       ->check(onOff);
   cmd->add_option("--sim-speed", change->simSpeed,
-                  "The score ticker's speed, 1 to 10 (5 is normal; the desktop's ticker waits "
-                  "this many tenths of a second between games)")
-      ->check(CLI::Range(kSlowestTicker, kFastestTicker));
+                  "The score ticker's pause, 0 to 10 (0 is no pause, 5 is normal; the "
+                  "desktop's ticker waits this many tenths of a second between games)")
+      ->check(CLI::Range(kNoTickerPause, kLongestTickerPause));
   cmd->callback([&context, change] { RunOptions(context, *change); });
 }
 
