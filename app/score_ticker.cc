@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "app/screen.h"
-#include "league/bracket_table.h"
+#include "league/seeded_name.h"
 #include "platform/ui.h"
 
 namespace courtmere::app {
@@ -54,7 +54,7 @@ void ScoreTicker::Skip() {
 
 // A name on the ticker carries the poll rank before the school ("3. Duke").
 bool ScoreTicker::IsUserSchool(const std::string& shown) const {
-  return !userSchool_.empty() && SchoolOfEntry(shown) == userSchool_;
+  return !userSchool_.empty() && SeededName::Parse(shown).school == userSchool_;
 }
 
 // The newest result stands on top.
