@@ -33,6 +33,8 @@ int main(int argc, char** argv) {
   courtmere::cli::AddPollCommand(app, context);
   courtmere::cli::AddCriCommand(app, context);
   courtmere::cli::AddAwardsCommand(app, context);
+  courtmere::cli::AddStaffCommand(app, context);
+  courtmere::cli::AddLineupCommand(app, context);
 
   try {
     app.parse(argc, argv);

@@ -26,7 +26,7 @@ void ClearDynasty(Store& store) {
   Empty(store, {"NBADraft", "PlayerStats", "CareerPlayerStats", "PlayerYearStats"});
   store.Exec("DELETE FROM League WHERE Id > 0");
   Empty(store, {"Team", "ScrubTeam", "TeamStats", "Ranking", "CRIRank", "Messages", "Alumni",
-                "NCTHistory", "ACTHistory", "CoachHistory", "TrainPlayer", "InboxMessage"});
+                "NCTHistory", "ACTHistory", "CoachHistory", "TrainPlayer", "InboxMessage", "RankHistory"});
   for (const char* table : {"NCTTourney", "ACTTourney", "ConfTourney", "PreSeasonTourney"}) {
     store.Exec(std::string("DELETE FROM ") + table + " WHERE Id > 0");
   }

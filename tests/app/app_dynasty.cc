@@ -25,10 +25,13 @@ AppDynasty::AppDynasty(uint64_t seed) {
   CreateCoaches(session(), 0);
   CreateScouts(session(), 0);
   CreateTrainers(session(), 0);
-  for (Rows r = s.Query("SELECT SchoolName, Region, InitialPrestige FROM Team ORDER BY rowid");
+  for (Rows r =
+           s.Query("SELECT SchoolName, Region, InitialPrestige, Owner FROM Team ORDER BY rowid");
        r.Next();) {
     const std::string school = r.Text(0);
-    SetCoachRoles(session(), school);
+    // The computer gives its own teams their roles; the user names his on
+    // the roles screen.
+    if (r.Text(3) != "Human") SetCoachRoles(session(), school);
     CreateTeamRoster(session(), school, r.Text(1), r.Int(2));
     SetTeamLineup(session(), school, 0);
   }

@@ -1,7 +1,8 @@
 // A small dynasty for the desktop program's tests, built by hand in a blank
 // store in a temporary program folder: one conference of four schools (the
 // user's is "St. John's", another carries a non-ASCII letter), rosters, staff
-// and depth charts made as a new dynasty makes them, the user's head coach,
+// and depth charts made as a new dynasty makes them (the user's coaches have
+// no roles until he gives them on the roles screen), the user's head coach,
 // and games played through the engine with their schedule rows, box scores
 // and logs.
 #pragma once

@@ -1,0 +1,135 @@
+// The staff's roles screen and the to-do list it feeds: a choice takes a role
+// from the others, a submit is refused whole or written whole, and the list
+// of what to do next follows the guards of Sim Day.
+#include <gtest/gtest.h>
+
+#include "people/league_fixture.h"
+#include "screens/coach_roles.h"
+#include "screens/coaching_staff.h"
+#include "screens/home.h"
+#include "screens/todo_list.h"
+#include "store/session.h"
+
+namespace courtmere {
+namespace {
+
+constexpr const char* kSchool = "St. John's";
+
+class StaffScreensTest : public ::testing::Test {
+ protected:
+  StaffScreensTest() {
+    league_.AddTeam(kSchool, "East", 60, "Human");
+    league_.AddTeam("Duke", "South", 80);
+    session().humanSchool = kSchool;
+    // Two coaches of one name: the roles are written by Id.
+    for (const char* name : {"Al O'Hara", "Bo Diaz", "Al O'Hara"}) {
+      ids_.push_back(static_cast<int>(store().Append("Coach", {{"Name", name},
+                                                               {"Team", kSchool},
+                                                               {"RecPoints", int64_t{2}},
+                                                               {"OffCoach", int64_t{81}},
+                                                               {"DefCoach", int64_t{40}}})));
+    }
+    store().Append("Coach", {{"Name", "Duke's man"}, {"Team", "Duke"}, {"OffPoints", int64_t{1}}});
+  }
+  Session& session() { return league_.session(); }
+  Store& store() { return league_.store(); }
+  std::vector<int> Points(const char* column) {
+    std::vector<int> values;
+    for (int id : ids_) {
+      values.push_back(static_cast<int>(
+          *store().ScalarInt(std::string("SELECT ") + column + " FROM Coach WHERE Id = ?", id)));
+    }
+    return values;
+  }
+  std::vector<std::string> Entries() {
+    std::vector<std::string> entries;
+    for (const TodoItem& item : TodoList(session())) entries.push_back(item.Entry);
+    return entries;
+  }
+
+  testing::LeagueFixture league_;
+  std::vector<int> ids_;
+};
+
+TEST_F(StaffScreensTest, AChoiceTakesTheRoleFromTheOthers) {
+  CoachRoles roles = LoadCoachRoles(store(), kSchool);
+  ASSERT_EQ(roles.Lines.size(), 3u);
+  EXPECT_EQ(roles.Caption, "St. John's Coaching Roles");
+  ChooseOffence(roles, 0, 1);
+  ChooseDefence(roles, 0, 1);  // the same coach: his offence goes
+  EXPECT_EQ(roles.Lines[0].Off, 0);
+  EXPECT_EQ(roles.Lines[0].Def, 1);
+  ChooseOffence(roles, 1, 1);
+  ChooseOffence(roles, 2, 1);  // a second offence coach: the first loses it
+  EXPECT_EQ(roles.Lines[1].Off, 0);
+  EXPECT_EQ(roles.Lines[2].Off, 1);
+  ChooseOffence(roles, 2, 0);  // a "0" clears only its own list
+  EXPECT_EQ(roles.Lines[0].Def, 1);
+  EXPECT_EQ(CheckRoles(roles), RolesCheck::kNotOneEach);
+}
+
+TEST_F(StaffScreensTest, ASubmitIsRefusedWholeOrWrittenWhole) {
+  CoachRoles roles = LoadCoachRoles(store(), kSchool);
+  EXPECT_FALSE(SubmitCoachRoles(session(), roles));
+  EXPECT_EQ(league_.ui().Messages().back(), kRolesNotOneEach);
+  // Named for both roles by Id, as the command line can: nothing is written.
+  ASSERT_TRUE(AssignRole(roles, ids_[2], Role::kOffence));
+  ASSERT_TRUE(AssignRole(roles, ids_[2], Role::kDefence));
+  EXPECT_FALSE(SubmitCoachRoles(session(), roles));
+  EXPECT_EQ(league_.ui().Messages().back(), kRolesBothToOne);
+  EXPECT_EQ(Points("RecPoints"), (std::vector<int>{2, 2, 2}));
+  EXPECT_FALSE(AssignRole(roles, 999, Role::kOffence));
+  EXPECT_EQ(roles.Lines[2].Off, 1) << "an unknown coach changes nothing";
+
+  ASSERT_TRUE(AssignRole(roles, ids_[0], Role::kDefence));
+  ASSERT_TRUE(SubmitCoachRoles(session(), roles));
+  EXPECT_EQ(Points("OffPoints"), (std::vector<int>{0, 0, 1}));
+  EXPECT_EQ(Points("DefPoints"), (std::vector<int>{1, 0, 0}));
+  EXPECT_EQ(Points("RecPoints"), (std::vector<int>{1, 2, 1}));
+  const CoachingStaff staff = LoadCoachingStaff(store(), kSchool);
+  ASSERT_EQ(staff.Rows.size(), 3u);
+  EXPECT_EQ(staff.Rows[2].Cells,
+            (std::array<std::string, kStaffColumns.size()>{"Al O'Hara", "0", "F", "F", "F", "F",
+                                                           "F", "A", "F", "F", "", "1", "0", "1"}));
+  EXPECT_EQ(StaffLetter(80), "B");
+  EXPECT_EQ(StaffLetter(56), "C");
+  EXPECT_EQ(StaffLetter(40), "F");
+}
+
+// The tasks of the season follow the guards: the chart and the roles go from
+// the list when they are set; the day to play stays.
+TEST_F(StaffScreensTest, TheListFollowsTheStageAndTheGuards) {
+  session().config.Stage = kStagePostTraining;
+  EXPECT_EQ(Entries(), (std::vector<std::string>{"mnuNonConfPre", "mnuManagementRoster",
+                                                 "mnuStaffViewCoaches", "mnuOffSeasonStart"}));
+  session().config.Stage = kStageSeason;
+  session().config.CurrWeek = 14;
+  EXPECT_EQ(Entries(), (std::vector<std::string>{"mnuManagementRoster", "mnuStaffViewCoaches",
+                                                 "mnuSeasonSimGames"}));
+  CoachRoles roles = LoadCoachRoles(store(), kSchool);
+  ChooseOffence(roles, 0, 1);
+  ChooseDefence(roles, 1, 1);
+  ASSERT_TRUE(SubmitCoachRoles(session(), roles));
+  store().Exec("UPDATE Team SET Scholarships = 2 WHERE SchoolName = ?", kSchool);
+  EXPECT_EQ(Entries(), (std::vector<std::string>{"mnuManagementRoster", "mnuRecruitViewTeam",
+                                                 "mnuSeasonSimGames"}));
+  EXPECT_EQ(TodoList(session())[1].Text,
+            "Offer your scholarships by the end of week 15 (0 of 2 given)");
+  session().config.Stage = kStageBeginOffSeason;
+  EXPECT_EQ(Entries(), (std::vector<std::string>{"mnuOffSeasonTrain", "mnuOffSeasonTrainPlayers"}));
+  session().humanSchool.clear();
+  EXPECT_TRUE(Entries().empty());
+}
+
+TEST_F(StaffScreensTest, OrdinalsReadAsWords) {
+  EXPECT_EQ(Ordinal(1), "1st");
+  EXPECT_EQ(Ordinal(2), "2nd");
+  EXPECT_EQ(Ordinal(3), "3rd");
+  EXPECT_EQ(Ordinal(11), "11th");
+  EXPECT_EQ(Ordinal(12), "12th");
+  EXPECT_EQ(Ordinal(22), "22nd");
+  EXPECT_EQ(Ordinal(104), "104th");
+}
+
+}  // namespace
+}  // namespace courtmere
