@@ -147,6 +147,8 @@ void HomeScreen::ShowChart() {
   weeks->setTitleText("Week");
   auto* ranks = new QValueAxis(chart);
   ranks->setRange(1, worst);
+  ranks->applyNiceNumbers();
+  ranks->setMin(1);
   ranks->setReverse(true);
   ranks->setLabelFormat("%d");
   chart->addAxis(weeks, Qt::AlignBottom);

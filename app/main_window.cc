@@ -249,7 +249,7 @@ void MainWindow::UpdateIntro() {
     others = others || screen != home_;
   }
   ShowIntro(!gate_.dynasty && !setUp);
-  ShowHome(gate_.dynasty && !others && !session_.quitting);
+  ShowHome(gate_.dynasty && !others && !session_.quitting && session_.StoreOpen());
 }
 
 // The home screen fills the area without a frame: it is the board the other
@@ -400,6 +400,10 @@ void MainWindow::CloseScreens() {
   intro_ = nullptr;
   homeWindow_ = nullptr;
   home_ = nullptr;
+  // With every screen gone the home screen (or the intro) comes back once
+  // the flow in hand is over.
+  QMetaObject::invokeMethod(
+      this, [this] { UpdateIntro(); }, Qt::QueuedConnection);
 }
 
 void MainWindow::OpenPlayerCard(int playerId) {

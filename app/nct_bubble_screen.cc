@@ -58,10 +58,8 @@ void NctBubbleScreen::Refresh() {
     rows.push_back(std::move(row));
   }
   grid_->Model()->SetRows(std::move(rows));
-  grid_->setVisible(!b.Selected);
   if (b.Selected) {
-    summary_->setText(QString("<b>The field is chosen.</b><br><br><b>Last four in:</b> %1<br><br>"
-                              "<b>First four out:</b> %2")
+    summary_->setText(QString("<b>The field is chosen.</b> Last four in: %1. First four out: %2.")
                           .arg(Names(b.LastIn), Names(b.FirstOut)));
     return;
   }

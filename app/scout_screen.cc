@@ -27,6 +27,7 @@ ScoutScreen::ScoutScreen(Session& session, ScreenHost& host, QWidget* parent)
     : Screen(session, host, parent),
       title_(new QLabel(this)),
       facts_(NewPairGrid(this)),
+      tactics_(NewPairGrid(this)),
       leaders_(new GridView(new GridModel({"Leader in", "Player", "Per Game"}, this), false, this)),
       roster_(new GridView(new GridModel(RosterHeadings(), this), true, this)) {
   setObjectName("frmScoutOpp");
@@ -46,12 +47,13 @@ ScoutScreen::ScoutScreen(Session& session, ScreenHost& host, QWidget* parent)
   }
   auto* top = new QHBoxLayout;
   top->addWidget(facts_, 1);
+  top->addWidget(tactics_, 1);
   top->addWidget(leaders_, 1);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(title_);
   layout->addLayout(top);
   layout->addWidget(roster_, 1);
-  resize(900, 680);
+  resize(960, 560);
   Refresh();
 }
 
@@ -60,6 +62,7 @@ void ScoutScreen::Refresh() {
   if (!report) {
     title_->setText("No game is left on your schedule.");
     ShowPairs(facts_, {});
+    ShowPairs(tactics_, {});
     leaders_->Model()->SetRows({});
     roster_->Model()->SetRows({});
     return;
@@ -70,12 +73,15 @@ void ScoutScreen::Refresh() {
                      {"Conference", report->Conference},
                      {"Record", report->Record},
                      {"Poll", report->PollRank},
-                     {"CRI", report->CriRank},
-                     {"Tempo", t.Tempo},
-                     {"Offense", t.OffenseType},
-                     {"Defense", t.Defense},
-                     {"Press", t.Press},
-                     {"Graded by", report->Scout.empty() ? "no head scout" : report->Scout}});
+                     {"CRI", report->CriRank}});
+  ShowPairs(tactics_, {{"Tempo", t.Tempo},
+                       {"Offense", t.OffenseType},
+                       {"Defense", t.Defense},
+                       {"Press", t.Press},
+                       {"Graded by", report->Scout.empty() ? "no head scout" : report->Scout}});
+  for (GridView* grid : {facts_, tactics_}) {
+    grid->setFixedHeight(grid->verticalHeader()->length() + 2 * grid->frameWidth());
+  }
   std::vector<GridRow> leaders;
   std::vector<int> leaderIds;
   for (const ScoutLeader& l : report->Leaders) {

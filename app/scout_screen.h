@@ -22,12 +22,14 @@ class ScoutScreen : public Screen {
 
   QLabel* Title() const { return title_; }
   GridView* Facts() const { return facts_; }
+  GridView* Tactics() const { return tactics_; }
   GridView* Leaders() const { return leaders_; }
   GridView* Roster() const { return roster_; }
 
  private:
   QLabel* title_;
   GridView* facts_;
+  GridView* tactics_;
   GridView* leaders_;
   GridView* roster_;
 };

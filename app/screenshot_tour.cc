@@ -78,7 +78,7 @@ class Tour {
     QDir().mkpath(folder_);
     StartUp(*session_);
     window_ = std::make_unique<MainWindow>(*session_);
-    window_->resize(1280, 900);
+    window_->resize(1280, 800);
     window_->show();
     window_->RunGate();
   }

@@ -1,7 +1,6 @@
 #include "screens/nct_bubble.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <set>
 
 #include "league/nct_selection.h"
@@ -14,11 +13,15 @@ namespace {
 
 constexpr int kAtLargeCandidates = 60;
 
-// Each conference's best school by score.
+// Each conference's best school by score, over every school of the first
+// division and the background.
 std::set<std::string> ProjectedChampions(Store& store) {
-  std::vector<Entrant> all =
-      PollCandidates(store, INT32_MAX, [](const std::string&) { return false; });
-  ReadHomes(store, all);
+  std::vector<Entrant> all;
+  for (Rows r = store.Query("SELECT SchoolName, Conference FROM Team UNION ALL "
+                            "SELECT SchoolName, Conference FROM ScrubTeam");
+       r.Next();) {
+    all.push_back({r.Text(0), PollPoints(store, r.Text(0)), 0, {}, r.Text(1)});
+  }
   ScoreAndSort(store, all);
   std::set<std::string> conferences;
   std::set<std::string> champions;
@@ -29,6 +32,8 @@ std::set<std::string> ProjectedChampions(Store& store) {
   return champions;
 }
 
+// The year's bubble as the selection recorded it: at-large places 30 to 33
+// and 34 to 37.
 void ReadSelection(Store& store, int year, NctBubble& bubble) {
   Rows r = store.Query(
       "SELECT LastIn1, LastIn2, LastIn3, LastIn4, FirstOut1, FirstOut2, FirstOut3, FirstOut4 "
@@ -41,6 +46,34 @@ void ReadSelection(Store& store, int year, NctBubble& bubble) {
   }
 }
 
+BubbleRow Row(Store& store, const Entrant& e, int place, bool in, const std::string& user) {
+  const int rank = static_cast<int>(
+      store.ScalarInt("SELECT min(TeamRanking) FROM Ranking WHERE SchoolName = ?", e.school)
+          .value_or(0));
+  return {place, e.school, e.conference, rank, e.score, in, e.school == user};
+}
+
+void ShowSelection(Store& store, const std::string& user, NctBubble& bubble) {
+  constexpr int kLastInFrom = 30;
+  std::vector<Entrant> named;
+  for (const auto* list : {&bubble.LastIn, &bubble.FirstOut}) {
+    for (const std::string& school : *list)
+      named.push_back({school, PollPoints(store, school), 0, {}, {}});
+  }
+  ReadHomes(store, named);
+  ScoreAndSort(store, named);  // the scores only: the order is the selection's
+  for (size_t i = 0; i < 8; ++i) {
+    const std::string& school = i < 4 ? bubble.LastIn[i] : bubble.FirstOut[i - 4];
+    if (school.empty()) continue;
+    for (const Entrant& e : named) {
+      if (e.school == school) {
+        bubble.Rows.push_back(Row(store, e, kLastInFrom + static_cast<int>(i), i < 4, user));
+        break;
+      }
+    }
+  }
+}
+
 }  // namespace
 
 NctBubble ShowNctBubble(Store& store, const std::string& userSchool, int year) {
@@ -48,6 +81,7 @@ NctBubble ShowNctBubble(Store& store, const std::string& userSchool, int year) {
   if (store.RowCount("NCTTourney") > 0) {
     bubble.Selected = true;
     ReadSelection(store, year, bubble);
+    ShowSelection(store, userSchool, bubble);
     return bubble;
   }
   std::set<std::string> bids;

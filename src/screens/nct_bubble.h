@@ -24,7 +24,7 @@ struct BubbleRow {
 
 struct NctBubble {
   // True once the field is chosen: LastIn and FirstOut hold the selection's
-  // bubble and Rows is empty.
+  // bubble, and Rows shows them at their at-large places 30 to 37.
   bool Selected = false;
   int AtLarge = 0;         // the at-large places
   int Bids = 0;            // the automatic bids, held or projected

@@ -5,6 +5,7 @@
 #include "engine/run_engine.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "screens/coach_roles.h"
 #include "store/blank_store.h"
 #include "store/season_stats.h"
 #include "store/store_files.h"
@@ -65,6 +66,13 @@ void AppDynasty::AddSchool(const std::string& school, const std::string& region,
                           {"Defense", "Man"},
                           {"Press", "None"}});
   store().Append("TeamStats", {{"SchoolName", school}});
+}
+
+void AppDynasty::NameCoachRoles() {
+  CoachRoles roles = LoadCoachRoles(store(), kHuman);
+  ChooseOffence(roles, 0, 1);
+  ChooseDefence(roles, 1, 1);
+  SubmitCoachRoles(session(), roles);
 }
 
 void AppDynasty::SetCalendar(const std::string& stage, int week) {

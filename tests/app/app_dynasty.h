@@ -29,6 +29,9 @@ class AppDynasty {
   ScriptedUi& ui() { return ui_; }
   const std::filesystem::path& folder() const { return dir_.Path(); }
 
+  // What the user does on the roles screen before his first game: the first
+  // coach runs the offense, the second the defense, and Submit.
+  void NameCoachRoles();
   // Puts the calendar at a stage and a week.
   void SetCalendar(const std::string& stage, int week);
   // Plays a game through the engine, records it into the season's figures

@@ -58,6 +58,7 @@ class SavedGamesTest : public QObject {
  private slots:
   void init() {
     dynasty_ = std::make_unique<AppDynasty>();
+    dynasty_->NameCoachRoles();
     dynasty_->PlayGame(AppDynasty::kHuman, "Duke", 2, "Thursday", false);
     window_ = std::make_unique<MainWindow>(dynasty_->session());
     window_->show();

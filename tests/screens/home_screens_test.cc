@@ -1,12 +1,14 @@
-// The staff's roles screen and the to-do list it feeds: a choice takes a role
-// from the others, a submit is refused whole or written whole, and the list
-// of what to do next follows the guards of Sim Day.
+// What the home screen and its neighbours read: the staff's roles screen (a
+// choice takes a role from the others, a submit is refused whole or written
+// whole), the list of what to do next, which follows the stage and the guards
+// of Sim Day, and the NCT bubble once the field is chosen.
 #include <gtest/gtest.h>
 
 #include "people/league_fixture.h"
 #include "screens/coach_roles.h"
 #include "screens/coaching_staff.h"
 #include "screens/home.h"
+#include "screens/nct_bubble.h"
 #include "screens/todo_list.h"
 #include "store/session.h"
 
@@ -15,9 +17,9 @@ namespace {
 
 constexpr const char* kSchool = "St. John's";
 
-class StaffScreensTest : public ::testing::Test {
+class HomeScreensTest : public ::testing::Test {
  protected:
-  StaffScreensTest() {
+  HomeScreensTest() {
     league_.AddTeam(kSchool, "East", 60, "Human");
     league_.AddTeam("Duke", "South", 80);
     session().humanSchool = kSchool;
@@ -51,7 +53,7 @@ class StaffScreensTest : public ::testing::Test {
   std::vector<int> ids_;
 };
 
-TEST_F(StaffScreensTest, AChoiceTakesTheRoleFromTheOthers) {
+TEST_F(HomeScreensTest, AChoiceTakesTheRoleFromTheOthers) {
   CoachRoles roles = LoadCoachRoles(store(), kSchool);
   ASSERT_EQ(roles.Lines.size(), 3u);
   EXPECT_EQ(roles.Caption, "St. John's Coaching Roles");
@@ -68,7 +70,7 @@ TEST_F(StaffScreensTest, AChoiceTakesTheRoleFromTheOthers) {
   EXPECT_EQ(CheckRoles(roles), RolesCheck::kNotOneEach);
 }
 
-TEST_F(StaffScreensTest, ASubmitIsRefusedWholeOrWrittenWhole) {
+TEST_F(HomeScreensTest, ASubmitIsRefusedWholeOrWrittenWhole) {
   CoachRoles roles = LoadCoachRoles(store(), kSchool);
   EXPECT_FALSE(SubmitCoachRoles(session(), roles));
   EXPECT_EQ(league_.ui().Messages().back(), kRolesNotOneEach);
@@ -98,7 +100,7 @@ TEST_F(StaffScreensTest, ASubmitIsRefusedWholeOrWrittenWhole) {
 
 // The tasks of the season follow the guards: the chart and the roles go from
 // the list when they are set; the day to play stays.
-TEST_F(StaffScreensTest, TheListFollowsTheStageAndTheGuards) {
+TEST_F(HomeScreensTest, TheListFollowsTheStageAndTheGuards) {
   session().config.Stage = kStagePostTraining;
   EXPECT_EQ(Entries(), (std::vector<std::string>{"mnuNonConfPre", "mnuManagementRoster",
                                                  "mnuStaffViewCoaches", "mnuOffSeasonStart"}));
@@ -121,7 +123,7 @@ TEST_F(StaffScreensTest, TheListFollowsTheStageAndTheGuards) {
   EXPECT_TRUE(Entries().empty());
 }
 
-TEST_F(StaffScreensTest, OrdinalsReadAsWords) {
+TEST_F(HomeScreensTest, OrdinalsReadAsWords) {
   EXPECT_EQ(Ordinal(1), "1st");
   EXPECT_EQ(Ordinal(2), "2nd");
   EXPECT_EQ(Ordinal(3), "3rd");
@@ -129,6 +131,40 @@ TEST_F(StaffScreensTest, OrdinalsReadAsWords) {
   EXPECT_EQ(Ordinal(12), "12th");
   EXPECT_EQ(Ordinal(22), "22nd");
   EXPECT_EQ(Ordinal(104), "104th");
+}
+
+// Once the field is chosen the bubble is the selection's own: its last four
+// in and first four out at places 30 to 37, scored as the selection scored.
+TEST_F(HomeScreensTest, TheChosenFieldShowsTheSelectionsBubble) {
+  const std::vector<std::string> schools = {"A", "B", "C", "D", "E", "F", "G", kSchool};
+  for (size_t i = 0; i + 1 < schools.size(); ++i) league_.AddTeam(schools[i], "West", 50);
+  for (size_t i = 0; i < schools.size(); ++i) {
+    store().Append("Ranking", {{"SchoolName", schools[i]},
+                               {"TeamRanking", static_cast<int64_t>(40 + i)},
+                               {"TeamPoints", 10.0 * static_cast<double>(i)}});
+    store().Append("CRIRank", {{"SchoolName", schools[i]}, {"CRIValue", 0.5}});
+  }
+  store().Append("NCTTourney", {{"SchoolName", "Duke"}, {"Seed", int64_t{1}}});
+  store().Append("NCTHistory", {{"Year", int64_t{2001}},
+                                {"LastIn1", "A"},
+                                {"LastIn2", "B"},
+                                {"LastIn3", "C"},
+                                {"LastIn4", "D"},
+                                {"FirstOut1", "E"},
+                                {"FirstOut2", "F"},
+                                {"FirstOut3", "G"},
+                                {"FirstOut4", kSchool}});
+  const NctBubble bubble = ShowNctBubble(store(), kSchool, 2001);
+  ASSERT_TRUE(bubble.Selected);
+  ASSERT_EQ(bubble.Rows.size(), 8u);
+  for (size_t i = 0; i < 8; ++i) {
+    EXPECT_EQ(bubble.Rows[i].Place, 30 + static_cast<int>(i));
+    EXPECT_EQ(bubble.Rows[i].School, schools[i]);
+    EXPECT_EQ(bubble.Rows[i].In, i < 4);
+    EXPECT_EQ(bubble.Rows[i].PollRank, 40 + static_cast<int>(i));
+    EXPECT_DOUBLE_EQ(bubble.Rows[i].Score, 50 + 10.0 * static_cast<double>(i));
+  }
+  EXPECT_TRUE(bubble.Rows[7].User);
 }
 
 }  // namespace
