@@ -11,18 +11,6 @@
 
 namespace courtmere::app {
 
-namespace {
-
-QString Names(const std::array<std::string, 4>& schools) {
-  QStringList names;
-  for (const std::string& s : schools) {
-    if (!s.empty()) names << ToQString(s).toHtmlEscaped();
-  }
-  return names.isEmpty() ? QString("—") : names.join(", ");
-}
-
-}  // namespace
-
 NctBubbleScreen::NctBubbleScreen(Session& session, ScreenHost& host, QWidget* parent)
     : Screen(session, host, parent),
       summary_(new QLabel(this)),
@@ -59,8 +47,9 @@ void NctBubbleScreen::Refresh() {
   }
   grid_->Model()->SetRows(std::move(rows));
   if (b.Selected) {
-    summary_->setText(QString("<b>The field is chosen.</b> Last four in: %1. First four out: %2.")
-                          .arg(Names(b.LastIn), Names(b.FirstOut)));
+    summary_->setText(
+        "<b>The field is chosen.</b> The last four in and the first four out of the at-large "
+        "places, as the selection ranked them.");
     return;
   }
   summary_->setText(
@@ -68,8 +57,8 @@ void NctBubbleScreen::Refresh() {
               "points. The line falls after place %1.")
           .arg(b.AtLarge)
           .arg(b.Bids)
-          .arg(b.Projected ? " (each conference's best school by score stands in for its "
-                             "champion until the tournaments are played)"
+          .arg(b.Projected ? " (a conference still to crown its champion is represented by its "
+                             "best school by score)"
                            : ""));
 }
 

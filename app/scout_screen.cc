@@ -46,9 +46,9 @@ ScoutScreen::ScoutScreen(Session& session, ScreenHost& host, QWidget* parent)
     });
   }
   auto* top = new QHBoxLayout;
-  top->addWidget(facts_, 1);
-  top->addWidget(tactics_, 1);
-  top->addWidget(leaders_, 1);
+  top->addWidget(facts_, 1, Qt::AlignTop);
+  top->addWidget(tactics_, 1, Qt::AlignTop);
+  top->addWidget(leaders_, 1, Qt::AlignTop);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(title_);
   layout->addLayout(top);
@@ -90,6 +90,8 @@ void ScoutScreen::Refresh() {
     leaderIds.push_back(l.PlayerId);
   }
   leaders_->Model()->SetRows(std::move(leaders), std::move(leaderIds));
+  leaders_->setFixedHeight(leaders_->horizontalHeader()->height() +
+                           leaders_->verticalHeader()->length() + 2 * leaders_->frameWidth());
   std::vector<GridRow> roster;
   std::vector<int> ids;
   for (const ScoutedPlayer& p : report->Roster) {

@@ -13,23 +13,29 @@ namespace {
 
 constexpr int kAtLargeCandidates = 60;
 
-// Each conference's best school by score, over every school of the first
-// division and the background.
-std::set<std::string> ProjectedChampions(Store& store) {
+// The automatic bids: the champions crowned so far (a background
+// conference's is known from the start), and for each other conference its
+// best school by score.
+std::set<std::string> Bids(Store& store, bool& projected) {
   std::vector<Entrant> all;
-  for (Rows r = store.Query("SELECT SchoolName, Conference FROM Team UNION ALL "
-                            "SELECT SchoolName, Conference FROM ScrubTeam");
+  std::set<std::string> bids;
+  std::set<std::string> decided;
+  for (Rows r = store.Query("SELECT SchoolName, Conference, Winner FROM Team UNION ALL "
+                            "SELECT SchoolName, Conference, Winner FROM ScrubTeam");
        r.Next();) {
     all.push_back({r.Text(0), PollPoints(store, r.Text(0)), 0, {}, r.Text(1)});
+    if (r.Int(2) != 1) continue;
+    bids.insert(r.Text(0));
+    decided.insert(r.Text(1));
   }
   ScoreAndSort(store, all);
-  std::set<std::string> conferences;
-  std::set<std::string> champions;
+  projected = false;
   for (const Entrant& e : all) {
-    if (e.conference.empty() || !conferences.insert(e.conference).second) continue;
-    champions.insert(e.school);
+    if (e.conference.empty() || !decided.insert(e.conference).second) continue;
+    bids.insert(e.school);
+    projected = true;
   }
-  return champions;
+  return bids;
 }
 
 // The year's bubble as the selection recorded it: at-large places 30 to 33
@@ -84,10 +90,7 @@ NctBubble ShowNctBubble(Store& store, const std::string& userSchool, int year) {
     ShowSelection(store, userSchool, bubble);
     return bubble;
   }
-  std::set<std::string> bids;
-  for (const Entrant& e : AutomaticBids(store)) bids.insert(e.school);
-  bubble.Projected = bids.empty();
-  if (bubble.Projected) bids = ProjectedChampions(store);
+  const std::set<std::string> bids = Bids(store, bubble.Projected);
   bubble.Bids = static_cast<int>(bids.size());
   bubble.AtLarge = std::max(0, kNctField - bubble.Bids);
   std::vector<Entrant> candidates = PollCandidates(

@@ -28,7 +28,7 @@ struct NctBubble {
   bool Selected = false;
   int AtLarge = 0;         // the at-large places
   int Bids = 0;            // the automatic bids, held or projected
-  bool Projected = false;  // the conference champions are not known yet
+  bool Projected = false;  // some conference champions are not known yet
   std::vector<BubbleRow> Rows;
   std::array<std::string, 4> LastIn;
   std::array<std::string, 4> FirstOut;
@@ -37,10 +37,10 @@ struct NctBubble {
 // The places shown on each side of the cut.
 inline constexpr int kBubbleReach = 8;
 
-// Design decision: until the conference tournaments have crowned their
-// champions, each conference's best school by the selection score stands in
-// for its champion and takes its automatic bid; the at-large list is then
-// made as the selection makes it, from the first 60 other schools of the poll.
+// Design decision: until a conference has crowned its champion, its best
+// school by the selection score stands in for him and takes its automatic
+// bid; the at-large list is then made as the selection makes it, from the
+// first 60 other schools of the poll.
 NctBubble ShowNctBubble(Store& store, const std::string& userSchool, int year);
 
 }  // namespace courtmere
