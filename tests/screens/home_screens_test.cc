@@ -4,6 +4,7 @@
 // of Sim Day, and the NCT bubble once the field is chosen.
 #include <gtest/gtest.h>
 
+#include "league/rank_history.h"
 #include "people/league_fixture.h"
 #include "screens/coach_roles.h"
 #include "screens/coaching_staff.h"
@@ -131,6 +132,41 @@ TEST_F(HomeScreensTest, OrdinalsReadAsWords) {
   EXPECT_EQ(Ordinal(12), "12th");
   EXPECT_EQ(Ordinal(22), "22nd");
   EXPECT_EQ(Ordinal(104), "104th");
+}
+
+// Each week's ranks are kept once (a week kept again replaces its row), and
+// the home screen reads them back with its newest letters.
+TEST_F(HomeScreensTest, TheRanksAreKeptWeekByWeekForTheHomeScreen) {
+  store().Append("Ranking", {{"SchoolName", kSchool}, {"TeamRanking", int64_t{30}}});
+  RecordRanks(store(), 1);
+  store().Exec("UPDATE Ranking SET TeamRanking = 12 WHERE SchoolName = ?", kSchool);
+  store().Append("CRIRank", {{"SchoolName", kSchool}, {"CRIRank", int64_t{7}}});
+  RecordRanks(store(), 5);
+  store().Exec("UPDATE Ranking SET TeamRanking = 9 WHERE SchoolName = ?", kSchool);
+  RecordRanks(store(), 5);
+  const std::vector<RankPoint> ranks = RankHistoryOf(store(), kSchool);
+  ASSERT_EQ(ranks.size(), 2u);
+  EXPECT_EQ(ranks[0].Week, 1);
+  EXPECT_EQ(ranks[0].Poll, 30);
+  EXPECT_EQ(ranks[0].Cri, 0);
+  EXPECT_EQ(ranks[1].Poll, 9);
+  EXPECT_EQ(ranks[1].Cri, 7);
+  EXPECT_EQ(RankHistoryOf(store(), "Duke").size(), 2u);
+
+  for (int i = 0; i < 6; ++i) {
+    store().Append("InboxMessage", {{"Week", int64_t{i}},
+                                    {"Sender", "Assistant"},
+                                    {"Subject", "Letter " + std::to_string(i)}});
+  }
+  session().config.Stage = kStageSeason;
+  const Home home = LoadHome(session());
+  EXPECT_EQ(home.School, kSchool);
+  EXPECT_EQ(home.PollRank, "No. 9");
+  EXPECT_EQ(home.CriRank, "No. 7");
+  EXPECT_EQ(home.Ranks.size(), 2u);
+  ASSERT_EQ(home.Letters.size(), kNewestLetters);
+  EXPECT_EQ(home.Letters[0].Subject, "Letter 5");
+  EXPECT_FALSE(home.Next.has_value());
 }
 
 // Once the field is chosen the bubble is the selection's own: its last four
