@@ -15,19 +15,24 @@
 #include "app/cri_screen.h"
 #include "app/game_log_screen.h"
 #include "app/help_screen.h"
+#include "app/home_screen.h"
 #include "app/inbox_dock.h"
 #include "app/injuries_screen.h"
 #include "app/intro_screen.h"
 #include "app/leaders_screen.h"
 #include "app/manage_roster_screen.h"
 #include "app/menu_tree.h"
+#include "app/nct_bubble_screen.h"
 #include "app/nonconf_games_screen.h"
 #include "app/options_dialog.h"
 #include "app/player_card_screen.h"
 #include "app/roster_screen.h"
 #include "app/schedule_screen.h"
 #include "app/score_ticker.h"
+#include "app/scout_screen.h"
+#include "app/staff_screen.h"
 #include "app/standings_screen.h"
+#include "app/suspensions_screen.h"
 #include "app/team_info_screen.h"
 #include "app/team_notes_screen.h"
 #include "app/team_stats_screen.h"
@@ -167,6 +172,10 @@ void MainWindow::RegisterCommands() {
   On("mnuSeasonAlaska", [this] { OpenBracket("Preseason", "Alaska Challenge"); });
   On("mnuSeasonPreACT", [this] { OpenBracket("Preseason", "Preseason ACT"); });
   On("mnuSeasonViewGameLogs", [this] { Show<GameLogScreen>(); });
+  On("mnuStaffViewCoaches", [this] { Show<StaffScreen>(); });
+  On("mnuNewsSuspensions", [this] { Show<SuspensionsScreen>(); });
+  On("mnuHeadlineBubble", [this] { Show<NctBubbleScreen>(); });
+  On("mnuSeasonScout", [this] { Show<ScoutScreen>(); });
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
@@ -234,8 +243,53 @@ void MainWindow::ApplyGate(const MenuGateState& state) {
 void MainWindow::UpdateIntro() {
   if (tearingDown_) return;
   bool setUp = false;
-  for (Screen* screen : Screens()) setUp = setUp || screen->SetsUpDynasty();
+  bool others = false;
+  for (Screen* screen : Screens()) {
+    setUp = setUp || screen->SetsUpDynasty();
+    others = others || screen != home_;
+  }
   ShowIntro(!gate_.dynasty && !setUp);
+  ShowHome(gate_.dynasty && !others && !session_.quitting && session_.StoreOpen());
+}
+
+// The home screen fills the area without a frame: it is the board the other
+// screens open over, not a window to close.
+void MainWindow::ShowHome(bool shown) {
+  if (!shown) {
+    // Out of the area at once; deleted later, as a link of its own may be
+    // the sender of the event in hand.
+    if (homeWindow_) {
+      area_->removeSubWindow(homeWindow_);
+      homeWindow_->hide();
+      homeWindow_->setParent(this);
+      homeWindow_->deleteLater();
+    }
+    homeWindow_ = nullptr;
+    home_ = nullptr;
+    return;
+  }
+  if (homeWindow_) return;
+  home_ = new HomeScreen(
+      session_, *this, [this](const char* name) { RunCommand(name); },
+      [this](const char* name) {
+        QAction* action = Entry(name);
+        return action && action->isEnabled();
+      });
+  QMdiSubWindow* window = area_->addSubWindow(home_, Qt::FramelessWindowHint);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  connect(window, &QObject::destroyed, this, [this, window] {
+    if (homeWindow_ != window) return;
+    homeWindow_ = nullptr;
+    home_ = nullptr;
+  });
+  homeWindow_ = window;
+  window->show();
+  FitHome();
+}
+
+void MainWindow::FitHome() {
+  if (!homeWindow_) return;
+  homeWindow_->setGeometry(area_->viewport()->rect());
 }
 
 void MainWindow::ShowIntro(bool shown) {
@@ -275,7 +329,10 @@ IntroScreen* MainWindow::Intro() const {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == area_->viewport() && event->type() == QEvent::Resize) CenterIntro();
+  if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+    CenterIntro();
+    FitHome();
+  }
   return QMainWindow::eventFilter(watched, event);
 }
 
@@ -290,15 +347,15 @@ void MainWindow::Show(Screen* screen) {
     area_->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(open->parentWidget()));
     return;
   }
+  ShowHome(false);
   const QSize wanted = screen->size();
   QMdiSubWindow* window = area_->addSubWindow(screen);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->setWindowTitle(screen->Caption());
-  if (screen->SetsUpDynasty()) {
-    // Queued: the window is still being taken apart when it reports.
-    connect(
-        window, &QObject::destroyed, this, [this] { UpdateIntro(); }, Qt::QueuedConnection);
-  }
+  // Queued: the window is still being taken apart when it reports. The last
+  // screen to close brings back the home screen, a set-up screen the intro.
+  connect(
+      window, &QObject::destroyed, this, [this] { UpdateIntro(); }, Qt::QueuedConnection);
   window->show();
   Place(window, wanted);
   UpdateIntro();
@@ -341,6 +398,12 @@ void MainWindow::CloseScreens() {
   }
   introWindow_ = nullptr;
   intro_ = nullptr;
+  homeWindow_ = nullptr;
+  home_ = nullptr;
+  // With every screen gone the home screen (or the intro) comes back once
+  // the flow in hand is over.
+  QMetaObject::invokeMethod(
+      this, [this] { UpdateIntro(); }, Qt::QueuedConnection);
 }
 
 void MainWindow::OpenTeam(const std::string& school) {

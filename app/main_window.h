@@ -29,6 +29,7 @@ class QMdiSubWindow;
 
 namespace courtmere::app {
 
+class HomeScreen;
 class InboxDock;
 class IntroScreen;
 class ScoreTicker;
@@ -54,6 +55,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   QList<Screen*> Screens() const;
   // The intro screen while it is shown, else null.
   IntroScreen* Intro() const;
+  // The home screen while it is shown, else null.
+  HomeScreen* Home() const { return home_; }
   InboxDock* Inbox() const { return inbox_; }
   ScoreTicker* Ticker() const { return ticker_; }
   // The season's run of this dynasty: the day screen, the auto-sim flag.
@@ -89,8 +92,11 @@ class MainWindow : public QMainWindow, public ScreenHost {
   bool Usable(std::string_view name) const;
   void UpdateEntries();
   void ShowIntro(bool shown);
-  // The intro stands while there is no dynasty and no set-up screen is open.
+  // The intro stands while there is no dynasty and no set-up screen is open;
+  // the home screen while there is one and no other screen is open.
   void UpdateIntro();
+  void ShowHome(bool shown);
+  void FitHome();
   // File > New: the store emptied, then the conference choice.
   void NewDynasty();
   // Off Season > Start Next Season.
@@ -124,6 +130,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   std::unique_ptr<SeasonRun, SeasonRunDeleter> season_;
   QMdiSubWindow* introWindow_ = nullptr;
   IntroScreen* intro_ = nullptr;
+  QMdiSubWindow* homeWindow_ = nullptr;
+  HomeScreen* home_ = nullptr;
   std::map<std::string, QAction*, std::less<>> entries_;
   std::set<std::string, std::less<>> menus_;
   std::map<std::string, std::function<void()>, std::less<>> commands_;

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
@@ -9,13 +10,16 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "app/coach_roles_screen.h"
 #include "app/conference_choice_screen.h"
 #include "app/grid_model.h"
 #include "app/inbox_dock.h"
 #include "app/main_window.h"
+#include "app/play_steps.h"
 #include "app/sim_games_screen.h"
+#include "app/staff_screen.h"
+#include "app/suspensions_screen.h"
 #include "app/team_choice_screen.h"
-#include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
 #include "store/session.h"
 #include "store/store_files.h"
@@ -47,7 +51,11 @@ constexpr const char* kSeasonScreens[][2] = {
     {"mnuHeadlinePlayer", "player_of_week"},
     {"mnuNewsTeamNotes", "team_notes"},
     {"mnuSeasonHawaii", "preseason_bracket"},
+    {"mnuSeasonScout", "scout_opponents"},
 };
+
+// Halfway through the season: the race for the NCT's places.
+constexpr int kBubbleWeek = 10;
 
 // The screens of the season's end, once the national tournaments have begun.
 constexpr const char* kPostseasonScreens[][2] = {
@@ -58,6 +66,7 @@ constexpr const char* kPostseasonScreens[][2] = {
     {"mnuConferenceStandings", "final_standings"},
     {"mnuHeadlinesAllAmerica", "all_america"},
     {"mnuHeadlineConf", "conference_awards"},
+    {"mnuHeadlineBubble", "nct_bubble_selected"},
 };
 
 class Tour {
@@ -69,7 +78,7 @@ class Tour {
     QDir().mkpath(folder_);
     StartUp(*session_);
     window_ = std::make_unique<MainWindow>(*session_);
-    window_->resize(1280, 900);
+    window_->resize(1280, 800);
     window_->show();
     window_->RunGate();
   }
@@ -83,6 +92,9 @@ class Tour {
     NewDynasty();
     ReadFirstLetter();
     Snap("new_dynasty");
+    window_->CloseScreens();
+    Settle();
+    Snap("home");
     Open("mnuNonConfPre", "nonconf_pre");
     Open("mnuNonConfOther", "nonconf_other");
     window_->CloseScreens();
@@ -90,6 +102,10 @@ class Tour {
     Snap("season_start");
     PlayDays();
     for (const auto& [entry, name] : kSeasonScreens) Open(entry, name);
+    ShowSuspensions();
+    window_->CloseScreens();
+    Settle();
+    Snap("home_week4");
     PlayOn();
     for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
     return shots_;
@@ -143,30 +159,34 @@ class Tour {
     if (letters->Model()->rowCount() > 0) emit letters->CellClicked(0, 1);
   }
 
-  // The user sets his coaches' roles as the computer would,
-  // and the ticker does not wait between games; then Sim Day and Next Day
-  // through the first days of the season.
+  // The user sets the ticker's shortest pause, lets the computer set his
+  // lineup and names his offence and defence coaches on the roles screen;
+  // then Sim Day and Next Day through the first days of the season.
   void PlayDays() {
-    SetCoachRoles(*session_, session_->humanSchool);
-    session_->Db().Exec("UPDATE Config SET SimSpeed = 0 WHERE IdConfig = 0");
-    session_->config.SimSpeed = 0;
+    ChooseQuickestTicker(*session_, *window_);
+    LetComputerSetLineup(*window_, ui_);
+    window_->CloseScreens();
+    window_->RunCommand("mnuStaffViewCoaches");
+    if (auto* staff = Find<StaffScreen>()) staff->RolesButton()->click();
+    Settle();
+    if (auto* roles = Find<CoachRolesScreen>()) {
+      roles->Offence(0)->setCurrentIndex(1);
+      roles->Defence(1)->setCurrentIndex(1);
+      Snap("coach_roles");
+      roles->Submit();
+    }
+    Snap("staff");
+    window_->CloseScreens();
     window_->RunCommand("mnuSeasonSimGames");
     auto* games = Find<SimGamesScreen>();
     if (!games) return;
     for (int day = 0; day < kDaysPlayed; ++day) {
       if (day > 0) games->NextDay();
-      SimDay(*games);
+      SimDayAsUser(*window_, ui_, *games);
     }
     Snap("sim_games");
     emit games->Grid()->CellClicked(0, 0);
     Snap("box_score");
-  }
-
-  // The user keeps his depth chart clear of the injured and suspended, as
-  // the computer would set it, before each press of Sim Day.
-  void SimDay(SimGamesScreen& games) {
-    SetTeamLineup(*session_, session_->humanSchool, 0);
-    games.SimDay();
   }
 
   // Day after day to the second week of the national tournaments.
@@ -174,14 +194,38 @@ class Tour {
     window_->CloseScreens();
     window_->RunCommand("mnuSeasonSimGames");
     auto* games = Find<SimGamesScreen>();
+    bool bubble = false;
     for (int step = 0; games && session_->config.CurrWeek < kLastWeekPlayed && step < 200; ++step) {
       if (games->SimButton()->isEnabled()) {
-        SimDay(*games);
+        SimDayAsUser(*window_, ui_, *games);
       } else {
         games->NextDay();
       }
+      if (!bubble && session_->config.CurrWeek == kBubbleWeek) {
+        bubble = true;
+        Open("mnuHeadlineBubble", "nct_bubble");
+        window_->CloseScreens();
+        Settle();
+        Snap("home_midseason");
+        window_->RunCommand("mnuSeasonSimGames");
+        games = Find<SimGamesScreen>();
+      }
     }
     Snap("sim_games_postseason");
+  }
+
+  // The suspensions of the first conference, the user's first, that has any.
+  void ShowSuspensions() {
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuNewsSuspensions");
+    auto* list = Find<SuspensionsScreen>();
+    if (!list) return;
+    for (int i = 0; list->Grid()->Model()->rowCount() == 0 && i < list->Conferences()->count();
+         ++i) {
+      list->Conferences()->setCurrentIndex(i);
+    }
+    Snap("suspensions");
   }
 
   // One screen at a time, over the main window with its inbox.

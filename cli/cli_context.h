@@ -60,5 +60,7 @@ void AddCriCommand(CLI::App& app, CliContext& context);
 void AddAwardsCommand(CLI::App& app, CliContext& context);
 void AddBracketCommand(CLI::App& app, CliContext& context);
 void AddOptionsCommand(CLI::App& app, CliContext& context);
+void AddStaffCommand(CLI::App& app, CliContext& context);
+void AddLineupCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

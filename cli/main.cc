@@ -56,6 +56,8 @@ int main(int argc, char** argv) {
   courtmere::cli::AddCriCommand(app, context);
   courtmere::cli::AddAwardsCommand(app, context);
   courtmere::cli::AddOptionsCommand(app, context);
+  courtmere::cli::AddStaffCommand(app, context);
+  courtmere::cli::AddLineupCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

@@ -1046,6 +1046,16 @@ CREATE TABLE InboxMessage (
   Text TEXT
 ) STRICT;
 
+-- Every first-division school's poll and CRI rank at the end of each week of
+-- the running season, for the charts of its progress (0: not ranked yet).
+CREATE TABLE RankHistory (
+  Id INTEGER PRIMARY KEY,
+  Week INTEGER DEFAULT 0,
+  SchoolName TEXT,
+  PollRank INTEGER DEFAULT 0,
+  CRIRank INTEGER DEFAULT 0
+) STRICT;
+
 CREATE TABLE ConfTourney (
   Id INTEGER PRIMARY KEY,
   SchoolName TEXT,

@@ -25,8 +25,9 @@ void ClearDynasty(Store& store) {
   store.Exec("UPDATE Config SET NumRecruits = 0 WHERE IdConfig = 0");
   Empty(store, {"NBADraft", "PlayerStats", "CareerPlayerStats", "PlayerYearStats"});
   store.Exec("DELETE FROM League WHERE Id > 0");
-  Empty(store, {"Team", "ScrubTeam", "TeamStats", "Ranking", "CRIRank", "Messages", "Alumni",
-                "NCTHistory", "ACTHistory", "CoachHistory", "TrainPlayer", "InboxMessage"});
+  Empty(store,
+        {"Team", "ScrubTeam", "TeamStats", "Ranking", "CRIRank", "Messages", "Alumni", "NCTHistory",
+         "ACTHistory", "CoachHistory", "TrainPlayer", "InboxMessage", "RankHistory"});
   for (const char* table : {"NCTTourney", "ACTTourney", "ConfTourney", "PreSeasonTourney"}) {
     store.Exec(std::string("DELETE FROM ") + table + " WHERE Id > 0");
   }

@@ -67,6 +67,7 @@ void ClearOldSeason(Session& session) {
   store.Exec("UPDATE Cities SET Second = 0, Regional = 0, Final = 0 WHERE Id > 0");
   store.Exec("DELETE FROM AwardWinners WHERE Id >= 0");
   store.Exec("DELETE FROM WeekAward WHERE id >= 0");
+  store.Exec("DELETE FROM RankHistory WHERE Id > 0");
   FileBoxScores(session, HumanSchool(store));
   store.Exec(
       "UPDATE Config SET CurrWeek = 1, CurrDay = 'Thursday', Stage = 'Season' WHERE IdConfig = 0");

@@ -25,7 +25,9 @@ constexpr std::array<const char*, 16> kChartFields = {"PG1", "PG2", "PG3", "SG1"
                                                       "SF1", "SF2", "SF3", "PF1",     "PF2", "PF3",
                                                       "C1",  "C2",  "C3",  "Inactive"};
 
-bool DepthChartReady(Session& session) {
+}  // namespace
+
+std::string ChartGuardRefusal(Session& session) {
   Store& store = session.Db();
   const std::string& team = session.humanSchool;
   Rows chart = store.Query(
@@ -36,30 +38,38 @@ bool DepthChartReady(Session& session) {
   for (size_t i = 0; i < kChartFields.size(); ++i) {
     const int id = found ? chart.Int(static_cast<int>(i)) : 0;
     if (id == 0) {
-      session.ui.Message("Please set the depth chart for " + team +
-                         " before trying to sim this day.");
-      return false;
+      return "Please set the depth chart for " + team + " before trying to sim this day.";
     }
     if (i + 1 == kChartFields.size()) break;
     Rows man =
         store.Query("SELECT Redshirt, Inactive, Suspended, Health FROM Player WHERE Id = ?", id);
     if (man.Next() &&
         (man.Int(0) == 1 || man.Int(1) == 1 || man.Int(2) == 1 || man.Text(3) != "Good")) {
-      session.ui.Message(
-          "You have a redshirt, suspended, injured or inactive player listed in your depth "
-          "chart. Please correct this before simming games.");
-      return false;
+      return "You have a redshirt, suspended, injured or inactive player listed in your depth "
+             "chart. Please correct this before simming games.";
     }
   }
-  return true;
+  return "";
 }
 
-bool CoachFor(Session& session, const char* role, const char* word) {
-  const std::string sql = std::string("SELECT Id FROM Coach WHERE ") + role + " = 1 AND Team = ?";
-  if (session.Db().ScalarInt(sql, session.humanSchool)) return true;
-  session.ui.Message(std::string("Please assign ") + word + " coach for " + session.humanSchool +
-                     " before trying to sim this day. You can do this by going to Staff, view "
-                     "coaches and selecting Change Roles.");
+std::string CoachesGuardRefusal(Session& session) {
+  for (const auto& [role, word] :
+       {std::pair{"OffPoints", "an offensive"}, {"DefPoints", "a defensive"}}) {
+    const std::string sql = std::string("SELECT Id FROM Coach WHERE ") + role + " = 1 AND Team = ?";
+    if (session.Db().ScalarInt(sql, session.humanSchool)) continue;
+    return std::string("Please assign ") + word + " coach for " + session.humanSchool +
+           " before trying to sim this day. You can do this by going to Staff, view coaches and "
+           "selecting Change Roles.";
+  }
+  return "";
+}
+
+namespace {
+
+// Shows a guard's refusal; true when there is none.
+bool Passes(Session& session, const std::string& problem) {
+  if (problem.empty()) return true;
+  session.ui.Message(problem);
   return false;
 }
 
@@ -85,9 +95,8 @@ bool ScholarshipQuestion(Session& session) {
 
 bool PassDayGuards(SeasonRun& run) {
   Session& session = run.session;
-  return RecruitingPointsQuestion(run) && DepthChartReady(session) &&
-         CoachFor(session, "OffPoints", "an offensive") &&
-         CoachFor(session, "DefPoints", "a defensive") && ScholarshipQuestion(session);
+  return RecruitingPointsQuestion(run) && Passes(session, ChartGuardRefusal(session)) &&
+         Passes(session, CoachesGuardRefusal(session)) && ScholarshipQuestion(session);
 }
 
 }  // namespace courtmere

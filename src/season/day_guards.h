@@ -7,9 +7,18 @@
 //   4. On the Saturday of week 15, scholarships not all given.
 #pragma once
 
+#include <string>
+
 namespace courtmere {
 
 struct SeasonRun;
+struct Session;
+
+// The refusal of guard 2 for the user's team, or empty when his chart is fit
+// to play.
+std::string ChartGuardRefusal(Session& session);
+// The refusal of guard 3, or empty when his staff has both game roles.
+std::string CoachesGuardRefusal(Session& session);
 
 // True when the day may be played.
 bool PassDayGuards(SeasonRun& run);

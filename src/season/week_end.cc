@@ -7,6 +7,7 @@
 #include "league/cri.h"
 #include "league/national_tourneys.h"
 #include "league/poll.h"
+#include "league/rank_history.h"
 #include "league/team_ratings.h"
 #include "season/academics.h"
 #include "season/awards.h"
@@ -236,6 +237,7 @@ void EndWeek(SeasonRun& run, int week, const std::string& day) {
     Progress(run, "Updating Rankings");
     UpdateCRI(session);
     UpdatePoll(session);
+    RecordRanks(session.Db(), week);
     SetupNationalTourneys(session);
     return;
   }
@@ -245,6 +247,7 @@ void EndWeek(SeasonRun& run, int week, const std::string& day) {
     Progress(run, "Updating Rankings");
     if (week > 4) UpdateCRI(session);
     UpdatePoll(session);
+    RecordRanks(session.Db(), week);
   }
   WeekEvents(run, week);
   RecruitingWeekEnd(run, week);
@@ -256,6 +259,7 @@ void WeekFiveEvents(SeasonRun& run) {
   HealInjuries(session);
   if (recruiting.Active()) recruiting.ComputerRecruiting(session, 5);
   UpdateCRI(session);
+  RecordRanks(session.Db(), 5);
   if (recruiting.Active()) recruiting.ClearWeekDecisions(session);
   AddInboxMessage(session, "Dynasty Gazette", "CRI Ranking",
                   "A News Service has just released the current College Rating Index (CRI) for "

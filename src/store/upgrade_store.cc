@@ -157,6 +157,10 @@ void UpgradeStore(Session& session, const PlayerGrader& gradeAllPlayers) {
   if (!store.TableExists("InboxMessage")) {
     store.ExecScript(SchemaStatement("CREATE TABLE InboxMessage ("));
   }
+  // Saves made before the ranks were kept week by week.
+  if (!store.TableExists("RankHistory")) {
+    store.ExecScript(SchemaStatement("CREATE TABLE RankHistory ("));
+  }
   if (!HasOldLayout(store)) return;
   if (!gradeAllPlayers) {
     throw StoreError("A store of the old layout needs its players graded anew");

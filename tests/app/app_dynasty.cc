@@ -5,6 +5,7 @@
 #include "engine/run_engine.h"
 #include "people/player_creation.h"
 #include "people/staff_creation.h"
+#include "screens/coach_roles.h"
 #include "store/blank_store.h"
 #include "store/season_stats.h"
 #include "store/store_files.h"
@@ -25,10 +26,13 @@ AppDynasty::AppDynasty(uint64_t seed) {
   CreateCoaches(session(), 0);
   CreateScouts(session(), 0);
   CreateTrainers(session(), 0);
-  for (Rows r = s.Query("SELECT SchoolName, Region, InitialPrestige FROM Team ORDER BY rowid");
+  for (Rows r =
+           s.Query("SELECT SchoolName, Region, InitialPrestige, Owner FROM Team ORDER BY rowid");
        r.Next();) {
     const std::string school = r.Text(0);
-    SetCoachRoles(session(), school);
+    // The computer gives its own teams their roles; the user names his on
+    // the roles screen.
+    if (r.Text(3) != "Human") SetCoachRoles(session(), school);
     CreateTeamRoster(session(), school, r.Text(1), r.Int(2));
     SetTeamLineup(session(), school, 0);
   }
@@ -62,6 +66,13 @@ void AppDynasty::AddSchool(const std::string& school, const std::string& region,
                           {"Defense", "Man"},
                           {"Press", "None"}});
   store().Append("TeamStats", {{"SchoolName", school}});
+}
+
+void AppDynasty::NameCoachRoles() {
+  CoachRoles roles = LoadCoachRoles(store(), kHuman);
+  ChooseOffence(roles, 0, 1);
+  ChooseDefence(roles, 1, 1);
+  SubmitCoachRoles(session(), roles);
 }
 
 void AppDynasty::SetCalendar(const std::string& stage, int week) {

@@ -1,7 +1,8 @@
 // A small dynasty for the desktop program's tests, built by hand in a blank
 // store in a temporary program folder: one conference of four schools (the
 // user's is "St. John's", another carries a non-ASCII letter), rosters, staff
-// and depth charts made as a new dynasty makes them, the user's head coach,
+// and depth charts made as a new dynasty makes them (the user's coaches have
+// no roles until he gives them on the roles screen), the user's head coach,
 // and games played through the engine with their schedule rows, box scores
 // and logs.
 #pragma once
@@ -28,6 +29,9 @@ class AppDynasty {
   ScriptedUi& ui() { return ui_; }
   const std::filesystem::path& folder() const { return dir_.Path(); }
 
+  // What the user does on the roles screen before his first game: the first
+  // coach runs the offense, the second the defense, and Submit.
+  void NameCoachRoles();
   // Puts the calendar at a stage and a week.
   void SetCalendar(const std::string& stage, int week);
   // Plays a game through the engine, records it into the season's figures

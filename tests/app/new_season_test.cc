@@ -1,8 +1,12 @@
 // A new dynasty on the desktop from File > New to the first day of a season:
 // the conference choice and the team choice with their refusals, the coach's
 // name with letters beyond ASCII, the non-conference screen and Start Season
-// with theirs, and the menus and title at each step. The slots run in order
-// over one program folder, each going on from where the last stopped.
+// with theirs, the home screen and its list of what to do next, the depth
+// chart and the coaches' roles set through their screens, the first weeks
+// played with Sim Day, the display screens of those weeks, and the menus and
+// title at each step. The slots run in order over one program folder, each
+// going on from where the last stopped; nothing is done that the user could
+// not do himself.
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -17,21 +21,28 @@
 
 #include "app/box_score_screen.h"
 #include "app/bracket_screen.h"
+#include "app/coach_roles_screen.h"
 #include "app/conference_choice_screen.h"
 #include "app/cri_screen.h"
 #include "app/grid_model.h"
+#include "app/home_screen.h"
 #include "app/inbox_dock.h"
 #include "app/leaders_screen.h"
 #include "app/main_window.h"
+#include "app/nct_bubble_screen.h"
 #include "app/nonconf_games_screen.h"
-#include "app/options_dialog.h"
+#include "app/play_steps.h"
+#include "app/roster_screen.h"
 #include "app/score_ticker.h"
+#include "app/scout_screen.h"
 #include "app/sim_games_screen.h"
+#include "app/staff_screen.h"
+#include "app/suspensions_screen.h"
 #include "app/team_choice_screen.h"
 #include "app/top25_screen.h"
-#include "cpu/computer_roster.h"
 #include "platform/scripted_ui.h"
 #include "screen_probes.h"
+#include "screens/coach_roles.h"
 #include "screens/leaders.h"
 #include "screens/nonconf_submit.h"
 #include "screenshots.h"
@@ -49,10 +60,8 @@ namespace {
 
 constexpr const char* kCoach = "Seán O'Neil";
 
-// Lets closed windows go and queued calls run.
 void Settle() {
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QCoreApplication::processEvents();
+  SettleEvents();
 }
 
 }  // namespace
@@ -234,57 +243,139 @@ class NewSeasonTest : public QObject {
     QVERIFY(Column(window_->Inbox()->Grid(), 1).contains("Season Instructions"));
   }
 
-  // Sim Day and Next Day from Thursday of week 1 to the Saturday of week 5,
-  // which plays nothing, and one press more into week 6.
-  void simDayRunsThroughWeekFive() {
-    // The user asks the ticker for no pause between games.
-    {
-      OptionsDialog options(*session_);
-      auto* pause = options.findChild<QComboBox*>("cmbSpeed");
-      pause->setCurrentIndex(pause->findText("0 - no pause"));
-      options.Submit();
-    }
-    QCOMPARE(session_->config.SimSpeed, 0);
+  // With no other screen open the home screen stands, and its list holds the
+  // two guards of Sim Day and the day to play; the recruiting tasks wait for
+  // their screens, and nothing is offered whose entry is closed.
+  void theHomeScreenListsWhatToDo() {
+    window_->CloseScreens();
+    Settle();
+    HomeScreen* home = window_->Home();
+    QVERIFY(home);
+    QCOMPARE(home->TodoEntries(),
+             (QStringList{"mnuManagementRoster", "mnuStaffViewCoaches", "mnuSeasonSimGames"}));
+    QCOMPARE(home->TodoTexts().last(), QString("Play the games of Thursday, week 1"));
+    QCOMPARE(home->Value("Record"), QString("0-0"));
+    QVERIFY2(home->Value("Place").contains(" of "), qPrintable(home->Value("Place")));
+    QCOMPARE(home->Value("Poll").isEmpty(), false);
+    QVERIFY(home->findChild<QLabel*>("lblSchool")->text() == school_);
+    Screenshot(window_.get(), "home_new_season");
+  }
+
+  // The guards of Sim Day send the user to the roster and the staff, and the
+  // home screen's links take him there; each task leaves the list when done.
+  void simDayWantsAChartAndRolesSetThroughTheirScreens() {
+    ChooseQuickestTicker(*session_, *window_);
     window_->Entry("mnuSeasonSimGames")->trigger();
-    auto* refused = Find<SimGamesScreen>(*window_);
-    QVERIFY(refused);
+    auto* screen = Find<SimGamesScreen>(*window_);
+    QVERIFY(screen);
+    QVERIFY(!window_->Home());
     // Enter presses Sim Day.
     QApplication::setActiveWindow(window_.get());
-    refused->Grid()->setFocus();
-    QTest::keyClick(refused->Grid(), Qt::Key_Return);
+    screen->Grid()->setFocus();
+    QTest::keyClick(screen->Grid(), Qt::Key_Return);
     QCOMPARE(ui_.Messages().back(), "Please set the depth chart for " + school_.toStdString() +
                                         " before trying to sim this day.");
     QCOMPARE(session_->config.CurrDay, std::string("Thursday"));
-    QVERIFY2(refused->SimButton()->isEnabled(), "a refused day can be pressed again");
-    // The user's depth chart and coaches' roles, as the computer would set them.
-    SetTeamLineup(*session_, school_.toStdString(), 0);
-    SetCoachRoles(*session_, school_.toStdString());
-    auto* screen = refused;
+    QVERIFY2(screen->SimButton()->isEnabled(), "a refused day can be pressed again");
+
+    window_->CloseScreens();
+    Settle();
+    window_->Home()->Follow("mnuManagementRoster");
+    Settle();
+    auto* roster = Find<RosterScreen>(*window_);
+    QVERIFY(roster);
+    ui_.QueueAnswer(true);
+    roster->findChild<QPushButton*>("cmdAuto")->click();
+    window_->CloseScreens();
+    Settle();
+    QCOMPARE(window_->Home()->TodoEntries(),
+             (QStringList{"mnuStaffViewCoaches", "mnuSeasonSimGames"}));
+
+    window_->Entry("mnuSeasonSimGames")->trigger();
+    screen = Find<SimGamesScreen>(*window_);
+    screen->SimButton()->click();
+    QCOMPARE(ui_.Messages().back(),
+             "Please assign an offensive coach for " + school_.toStdString() +
+                 " before trying to sim this day. You can do this by going to Staff, view "
+                 "coaches and selecting Change Roles.");
+    QCOMPARE(session_->config.CurrDay, std::string("Thursday"));
+
+    // Staff > View Coaches > Change Roles: one coach for both is not taken.
+    window_->Entry("mnuStaffViewCoaches")->trigger();
+    auto* staff = Find<StaffScreen>(*window_);
+    QVERIFY(staff);
+    QCOMPARE(staff->Grid()->Model()->rowCount(), 3);
+    staff->RolesButton()->click();
+    Settle();
+    auto* roles = Find<CoachRolesScreen>(*window_);
+    QVERIFY(roles);
+    QCOMPARE(roles->Caption(), school_ + " Coaching Roles");
+    roles->Offence(0)->setCurrentIndex(1);
+    roles->Defence(0)->setCurrentIndex(1);
+    QCOMPARE(roles->Offence(0)->currentText(), QString("0"));
+    roles->Submit();
+    QCOMPARE(ui_.Messages().back(), std::string(kRolesNotOneEach));
+    QVERIFY(Find<CoachRolesScreen>(*window_));
+    roles->Offence(2)->setCurrentIndex(1);
+    Screenshot(window_.get(), "coach_roles");
+    roles->Submit();
+    Settle();
+    QVERIFY(!Find<CoachRolesScreen>(*window_));
+    QCOMPARE(Column(staff->Grid(), 11), (QStringList{"0", "0", "1"}));
+    QCOMPARE(Column(staff->Grid(), 12), (QStringList{"1", "0", "0"}));
+    QCOMPARE(Column(staff->Grid(), 13), (QStringList{"1", "2", "1"}));
+    window_->CloseScreens();
+    Settle();
+    QCOMPARE(window_->Home()->TodoEntries(), (QStringList{"mnuSeasonSimGames"}));
+  }
+
+  // Sim Day and Next Day through week 1; the home screen then shows the
+  // games, the letters and the first poll's place on its chart.
+  void weekOneIsPlayedAndShownAtHome() {
+    window_->Entry("mnuSeasonSimGames")->trigger();
+    auto* screen = Find<SimGamesScreen>(*window_);
     QCOMPARE(screen->WeekCaption()->text(), QString("Week 1, 2001 - Thursday"));
     QVERIFY(!screen->PrevButton()->isEnabled());
-    QVERIFY(screen->SimButton()->isEnabled());
     QVERIFY(!screen->CoachGame()->isEnabled());
+    for (int day = 0; day < 4; ++day) {
+      if (day > 0) screen->NextButton()->click();
+      QVERIFY2(SimDayAsUser(*window_, ui_, *screen), ui_.Messages().back().c_str());
+      QVERIFY(screen->Grid()->Model()->rowCount() > 0 || !screen->Notice()->text().isEmpty());
+    }
+    QCOMPARE(session_->config.CurrWeek, 2);
+    window_->CloseScreens();
+    Settle();
+    HomeScreen* home = window_->Home();
+    QVERIFY(home);
+    const QStringList record = home->Value("Record").split('-');
+    QCOMPARE(record.size(), 2);
+    QVERIFY(record[0].toInt() + record[1].toInt() >= 1);
+    QVERIFY(home->ChartPoints() >= 1);
+    QVERIFY(home->TodoTexts().last().startsWith("Play the games of Thursday, week 2"));
+    Screenshot(window_.get(), "home_week2");
+    window_->Entry("mnuSeasonSimGames")->trigger();
+  }
+
+  // Sim Day and Next Day on to the Saturday of week 5, which plays nothing,
+  // and one press more into week 6.
+  void simDayRunsThroughWeekFive() {
+    auto* screen = Find<SimGamesScreen>(*window_);
+    QVERIFY(screen);
+    QCOMPARE(screen->WeekCaption()->text(), QString("Week 2, 2001 - Thursday"));
     int days = 0;
     const QString weekFive("Week 5, 2001 - Saturday");
     bool ticked = false;
     while (screen->WeekCaption()->text() != weekFive) {
       QVERIFY2(screen->SimButton()->isEnabled(), qPrintable(screen->WeekCaption()->text()));
-      // The user keeps his chart clear of the injured and the suspended.
-      SetTeamLineup(*session_, school_.toStdString(), 0);
-      screen->SimButton()->click();
-      QVERIFY2(!screen->SimButton()->isEnabled(),
+      QVERIFY2(SimDayAsUser(*window_, ui_, *screen),
                ui_.Messages().empty() ? "no message" : ui_.Messages().back().c_str());
-      QVERIFY(screen->Grid()->Model()->rowCount() > 0 || !screen->Notice()->text().isEmpty());
       ticked = ticked || window_->Ticker()->Lines()->count() > 0;
       QVERIFY(window_->Ticker()->isHidden());
       screen->NextButton()->click();
-      QVERIFY(++days <= 12);
+      QVERIFY(++days <= 8);
     }
-    QCOMPARE(days, 10);
-    QVERIFY2(ticked,
-             "the ticker showed the results of the games off the user's list");  // 4 days of week 1
-                                                                                 // and 2 a week in
-                                                                                 // weeks 2 to 4
+    QCOMPARE(days, 6);  // 2 a week in weeks 2 to 4
+    QVERIFY2(ticked, "the ticker showed the results of the games off the user's list");
     QVERIFY(!screen->NextButton()->isEnabled());
     QCOMPARE(screen->Notice()->text(),
              QString("No Games Today\nClick Sim Day to\nAdvance to next week"));
@@ -303,6 +394,69 @@ class NewSeasonTest : public QObject {
     QVERIFY(leaders);
     QVERIFY(leaders->Grid()->Model()->rowCount() >= kLeaderRows);  // more when 25th is shared
     QVERIFY(leaders->Grid()->Model()->Cell(0, 4).text.toInt() >= 5);
+  }
+
+  // The week-3 academic check has run: each conference lists its suspended
+  // players, and together they are every suspended man of the first division.
+  void theSuspensionsListEachConference() {
+    window_->Entry("mnuNewsSuspensions")->trigger();
+    auto* list = Find<SuspensionsScreen>(*window_);
+    QVERIFY(list);
+    QCOMPARE(list->Conferences()->currentText(), QString::fromStdString(session_->humanConference));
+    int listed = 0;
+    for (int i = 0; i < list->Conferences()->count(); ++i) {
+      list->Conferences()->setCurrentIndex(i);
+      const int rows = list->Grid()->Model()->rowCount();
+      listed += rows;
+      QCOMPARE(list->Notice()->text().isEmpty(), rows > 0);
+      for (int row = 0; row < rows; ++row) {
+        const int id = list->Grid()->Model()->Key(row);
+        QCOMPARE(
+            session_->Db().ScalarInt("SELECT Suspended FROM Player WHERE Id = ?", id).value_or(0),
+            int64_t{1});
+      }
+      if (rows > 0) Screenshot(window_.get(), "suspensions");
+    }
+    QCOMPARE(int64_t{listed},
+             *session_->Db().ScalarInt("SELECT count(*) FROM Player JOIN Team ON "
+                                       "Team.SchoolName = Player.Team WHERE Suspended = 1"));
+  }
+
+  // From week 6 the bubble: the places on both sides of the line, "In" above
+  // it and "Out" below, by falling score.
+  void theBubbleWatchOpensInWeekSix() {
+    QVERIFY(window_->Entry("mnuHeadlineBubble")->isEnabled());
+    window_->Entry("mnuHeadlineBubble")->trigger();
+    auto* bubble = Find<NctBubbleScreen>(*window_);
+    QVERIFY(bubble);
+    GridModel* rows = bubble->Grid()->Model();
+    QCOMPARE(rows->rowCount(), 16);
+    const QStringList status = Column(bubble->Grid(), 5);
+    QCOMPARE(status.count("In"), 8);
+    QCOMPARE(status.indexOf("Out"), 8);
+    for (int row = 1; row < rows->rowCount(); ++row) {
+      QVERIFY(rows->Cell(row, 4).sortKey.toDouble() <= rows->Cell(row - 1, 4).sortKey.toDouble());
+    }
+    // 31 conferences: 31 automatic bids, held or projected, leave 33 places.
+    QVERIFY2(bubble->Summary()->text().startsWith("33 at-large places after 31 automatic bids"),
+             qPrintable(bubble->Summary()->text()));
+    Screenshot(window_.get(), "nct_bubble");
+  }
+
+  // The next opponent, graded by the user's own scout: letters on every man.
+  void scoutOpponentsReportsTheNextGame() {
+    window_->Entry("mnuSeasonScout")->trigger();
+    auto* scout = Find<ScoutScreen>(*window_);
+    QVERIFY(scout);
+    QVERIFY2(scout->Title()->text().startsWith("Week 6, Thursday"),
+             qPrintable(scout->Title()->text()));
+    QVERIFY(scout->Roster()->Model()->rowCount() >= 10);
+    QVERIFY(QString("ABCDF").contains(scout->Roster()->Model()->Cell(0, 5).text));
+    QCOMPARE(scout->Leaders()->Model()->rowCount(), 3);
+    const QString first = scout->Roster()->Model()->Cell(0, 5).text;
+    scout->Refresh();
+    QCOMPARE(scout->Roster()->Model()->Cell(0, 5).text, first);  // the same report again
+    Screenshot(window_.get(), "scout_opponents");
   }
 
   void thePollTheIndexAndThePreseasonBracketsAreShown() {

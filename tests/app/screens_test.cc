@@ -54,6 +54,7 @@ class ScreensTest : public QObject {
  private slots:
   void init() {
     dynasty_ = std::make_unique<AppDynasty>();
+    dynasty_->NameCoachRoles();
     window_ = std::make_unique<MainWindow>(dynasty_->session());
     window_->show();
   }
