@@ -73,16 +73,6 @@ TEST(PickStarters, ABigManGoesToTheStrictlyWeakestPosition) {
   ExpectLegal(w);
 }
 
-TEST(PickStarters, ATeamOfGuardsStillStartsFive) {
-  std::vector<LineupRow> rows;
-  for (int i = 1; i <= 13; ++i) rows.push_back({i, i % 2 ? PG : SG, 100.0 - i, 74});
-  LineupWork w = Build(rows);
-  EXPECT_EQ(w.openStarters, 0);
-  for (int p = PG; p <= C; ++p) EXPECT_NE(w.starter[p], 0);
-  ExpectLegal(w);
-  EXPECT_EQ(w.openBench, 0);
-}
-
 TEST(PickBench, SecondRowOneTryEachThenTheBestLeftFillsTwoThirdRowSpots) {
   LineupWork w = Build({{1, PG, 90, 74},
                         {2, SG, 89, 76},
@@ -110,8 +100,18 @@ TEST(PickBench, SecondRowOneTryEachThenTheBestLeftFillsTwoThirdRowSpots) {
   ExpectLegal(w);
 }
 
-TEST(PickBench, ShortRosterLeavesSlotsOpenButStaysLegal) {
-  LineupWork w = Build({{1, C, 80, 84}, {2, C, 70, 84}, {3, PF, 60, 80}});
+// A team of guards still fills every slot; a short roster leaves slots open
+// but stays legal.
+TEST(Lineup, UnusualRostersStayLegal) {
+  std::vector<LineupRow> rows;
+  for (int i = 1; i <= 13; ++i) rows.push_back({i, i % 2 ? PG : SG, 100.0 - i, 74});
+  LineupWork w = Build(rows);
+  EXPECT_EQ(w.openStarters, 0);
+  EXPECT_EQ(w.openBench, 0);
+  for (int p = PG; p <= C; ++p) EXPECT_NE(w.starter[p], 0);
+  ExpectLegal(w);
+
+  w = Build({{1, C, 80, 84}, {2, C, 70, 84}, {3, PF, 60, 80}});
   ExpectLegal(w);
   EXPECT_GT(w.openBench, 0);
 }

@@ -1,6 +1,6 @@
 // The seed tables of the blank store (data/seed/*.csv), checked against every
-// constraint the program puts on them: ids and regions, the Big 12 upgrade
-// statements, InjuryList, name pools and high schools, conference sizes and
+// constraint the program puts on them: ids and regions, the Big 12
+// divisions, InjuryList, name pools and high schools, conference sizes and
 // the limits of the dynasty's tables, automatic bids and Cities, schedule
 // types, divisions and SchedGroup, challenges, Area, NBASetup.
 #include <gtest/gtest.h>
@@ -113,15 +113,6 @@ void ExpectIdsFromOne(Store& s, const std::string& table, const std::string& id)
   EXPECT_EQ(*s.ScalarInt("SELECT COUNT(DISTINCT " + id + ") FROM " + table), n) << table;
 }
 
-TEST_F(SeedDataTest, EverySeedTableIsLoaded) {
-  const std::vector<std::string> tables = SeedTables();
-  for (const char* t : {"LeagueSetup", "TeamSetup", "LowLeagueSetup", "FName", "LName",
-                        "HighSchool", "InjuryList", "NBASetup", "Cities"}) {
-    EXPECT_NE(std::find(tables.begin(), tables.end(), t), tables.end()) << t;
-    EXPECT_GT(S().RowCount(t), 0) << t;
-  }
-}
-
 // six fixed conferences, Id 1 to 6; the low ones above 6.
 TEST_F(SeedDataTest, LeagueSetupHasTheSixFixedConferencesThenTheLowOnes) {
   ExpectIdsFromOne(S(), "LeagueSetup", "Id");
@@ -138,16 +129,31 @@ TEST_F(SeedDataTest, LeagueSetupHasTheSixFixedConferencesThenTheLowOnes) {
             0);
 }
 
-// every SchedType is a known template and matches its conference's size.
-TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSize) {
+// Every SchedType is a known template that matches its conference's size;
+// a school's Division is one its type uses, and a two-division type splits
+// its schools evenly (the division tables have 6 or 7 slots).
+TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSizeAndDivisions) {
   for (const auto& [conference, idType] : Conferences()) {
     const auto& [id, type] = idType;
     ASSERT_TRUE(kSchedTypes.count(type)) << conference << " has schedule type " << type;
-    const int64_t size = *S().ScalarInt(
-        "SELECT COUNT(*) FROM " + SchoolTable(id) + " WHERE Conference = ?", conference);
-    EXPECT_EQ(size, kSchedTypes.at(type).teams) << conference << " (" << type << ")";
-    EXPECT_GE(size, 8) << conference;   // the conference tournament takes 8 to 14
-    EXPECT_LE(size, 14) << conference;  // the rating index's 14 slots
+    const SchedTypeRule& rule = kSchedTypes.at(type);
+    std::map<std::string, int> count;
+    int size = 0;
+    for (Rows rows = S().Query("SELECT Division, COUNT(*) FROM " + SchoolTable(id) +
+                                   " WHERE Conference = ? GROUP BY Division",
+                               conference);
+         rows.Next();) {
+      count[rows.Text(0)] = rows.Int(1);
+      size += rows.Int(1);
+      EXPECT_TRUE(rule.divisions.count(rows.Text(0)))
+          << conference << " has a school in division '" << rows.Text(0) << "'";
+    }
+    EXPECT_EQ(size, rule.teams) << conference << " (" << type << ")";
+    if (rule.divisions.size() == 2) {
+      for (const std::string& division : rule.divisions) {
+        EXPECT_EQ(count[division], rule.teams / 2) << conference << " " << division;
+      }
+    }
   }
   // Fixed conferences' schools stand in TeamSetup, the others in LowLeagueSetup.
   EXPECT_EQ(Int("SELECT COUNT(*) FROM TeamSetup WHERE Conference NOT IN "
@@ -156,30 +162,6 @@ TEST_F(SeedDataTest, EverySchedTypeMatchesItsConferenceSize) {
   EXPECT_EQ(Int("SELECT COUNT(*) FROM LowLeagueSetup WHERE Conference NOT IN "
                 "(SELECT Conference FROM LeagueSetup WHERE Id > 6)"),
             0);
-}
-
-// a school's Division is one its type uses, and a two-division type
-// splits its schools evenly (the division tables have 6 or 7 slots).
-TEST_F(SeedDataTest, EveryDivisionIsOneItsSchedTypeUses) {
-  for (const auto& [conference, idType] : Conferences()) {
-    const SchedTypeRule& rule = kSchedTypes.at(idType.second);
-    std::map<std::string, int> count;
-    for (Rows rows = S().Query("SELECT Division, COUNT(*) FROM " + SchoolTable(idType.first) +
-                                   " WHERE Conference = ? GROUP BY Division",
-                               conference);
-         rows.Next();) {
-      count[rows.Text(0)] = rows.Int(1);
-    }
-    for (const auto& [division, n] : count) {
-      EXPECT_TRUE(rule.divisions.count(division))
-          << conference << " has a school in division '" << division << "'";
-    }
-    if (rule.divisions.size() == 2) {
-      for (const std::string& division : rule.divisions) {
-        EXPECT_EQ(count[division], rule.teams / 2) << conference << " " << division;
-      }
-    }
-  }
 }
 
 // teams of a SchedGroup come next to each other in the slot order.
@@ -312,42 +294,21 @@ TEST_F(SeedDataTest, PrestigeSpansTheBands) {
             *S().ScalarDouble("SELECT AVG(Prestige) FROM LowLeagueSetup") + 15);
 }
 
-// the upgrade statements that run at every load and File > New
-// leave each Big 12 school in its division ('OK' ends in the South).
-TEST_F(SeedDataTest, TheBig12UpgradeLeavesEverySchoolInItsDivision) {
-  const std::set<std::string> north = {"NEMO", "KS", "CO", "IA"};
-  const std::set<std::string> south = {"OK", "TX"};
-  std::map<std::string, std::string> before;
-  for (Rows rows =
-           S().Query("SELECT SchoolName, Division FROM TeamSetup WHERE Conference = 'Big 12'");
-       rows.Next();) {
-    before[rows.Text(0)] = rows.Text(1);
-  }
-  ASSERT_EQ(before.size(), 12u);
-
-  Store::Transaction tx(S());  // rolled back: the shared store stays as seeded
-  S().Exec("Update LeagueSetup set SchedType = '12C' where id = 4");
-  S().Exec(
-      "Update TeamSetup set Division = 'North' where Conference = 'Big 12' AND (Area = 'NEMO' OR "
-      "AREA = 'KS' OR AREA = 'CO' OR Area = 'OK' OR Area = 'IA')");
-  S().Exec(
-      "Update TeamSetup set Division = 'South' where Conference = 'Big 12' AND (Area = 'OK' OR "
-      "AREA = 'TX')");
-  int northCount = 0, southCount = 0;
+// The seed already holds the Big 12 divisions the store upgrade sets: the
+// areas NEMO, KS, CO and IA in the North, OK and TX in the South, six each.
+TEST_F(SeedDataTest, TheBig12DivisionsFollowTheirAreas) {
+  std::map<std::string, int> count;
   for (Rows rows = S().Query(
            "SELECT SchoolName, Area, Division FROM TeamSetup WHERE Conference = 'Big 12'");
        rows.Next();) {
-    const std::string area = rows.Text(1), division = rows.Text(2);
-    SCOPED_TRACE(rows.Text(0));
-    ASSERT_TRUE(north.count(area) || south.count(area)) << "Area " << area;
-    EXPECT_EQ(division, north.count(area) ? "North" : "South");
-    EXPECT_EQ(division, before[rows.Text(0)]) << "the seed already holds the upgraded division";
-    (division == "North" ? northCount : southCount)++;
+    const std::string area = rows.Text(1);
+    const bool south = area == "OK" || area == "TX";
+    ASSERT_TRUE(south || area == "NEMO" || area == "KS" || area == "CO" || area == "IA")
+        << rows.Text(0) << " Area " << area;
+    EXPECT_EQ(rows.Text(2), south ? "South" : "North") << rows.Text(0);
+    ++count[rows.Text(2)];
   }
-  EXPECT_EQ(northCount, 6);
-  EXPECT_EQ(southCount, 6);
-  EXPECT_EQ(*S().ScalarText("SELECT Conference FROM LeagueSetup WHERE Id = 4"), "Big 12");
-  EXPECT_EQ(*S().ScalarText("SELECT SchedType FROM LeagueSetup WHERE Id = 4"), "12C");
+  EXPECT_EQ(count, (std::map<std::string, int>{{"North", 6}, {"South", 6}}));
 }
 
 // The regional high schools, and every school's Area
@@ -409,8 +370,12 @@ TEST_F(SeedDataTest, NamePoolsRunFromOneWithoutGaps) {
   EXPECT_FALSE(S().LastName(static_cast<int>(S().RowCount("LName")) - 1).empty());
 }
 
-// 60 injuries looked up by Roll(60).
-TEST_F(SeedDataTest, InjuryListHoldsSixtyInjuries) {
+// 60 injuries looked up by Roll(60); the 29 professional teams of the
+// draft order.
+TEST_F(SeedDataTest, InjuryListAndNBASetupHoldTheirRows) {
+  EXPECT_EQ(S().RowCount("NBASetup"), 29);
+  ExpectIdsFromOne(S(), "NBASetup", "id");
+  EXPECT_EQ(Int("SELECT COUNT(DISTINCT Team) FROM NBASetup WHERE Team <> ''"), 29);
   EXPECT_EQ(S().RowCount("InjuryList"), 60);
   ExpectIdsFromOne(S(), "InjuryList", "InjuryID");
   EXPECT_EQ(Int("SELECT COUNT(DISTINCT InjuryName) FROM InjuryList"), 60);
@@ -424,13 +389,6 @@ TEST_F(SeedDataTest, InjuryListHoldsSixtyInjuries) {
   // Mostly short injuries, a few that end a 20-week season.
   EXPECT_GE(Int("SELECT COUNT(*) FROM InjuryList WHERE WeeksOut <= 2"), 20);
   EXPECT_GE(Int("SELECT COUNT(*) FROM InjuryList WHERE WeeksOut >= 20"), 1);
-}
-
-// the 29 professional teams of the draft order.
-TEST_F(SeedDataTest, NBASetupHoldsTwentyNineTeams) {
-  EXPECT_EQ(S().RowCount("NBASetup"), 29);
-  ExpectIdsFromOne(S(), "NBASetup", "id");
-  EXPECT_EQ(Int("SELECT COUNT(DISTINCT Team) FROM NBASetup WHERE Team <> ''"), 29);
 }
 
 // three sites a region a year, and a Final Four site left over.
@@ -482,30 +440,6 @@ TEST_F(SeedDataTest, ChallengesPairFixedConferencesOnAPlayedDay) {
     EXPECT_TRUE(played) << "week " << week << " " << day;
   }
   EXPECT_GE(challenges, 1);
-}
-
-// A few rows of the real 2001-02 season, as the user sees them first.
-TEST_F(SeedDataTest, TheConferencesAreThoseOf2001To2002) {
-  auto conferenceOf = [](const std::string& school) {
-    auto c = S().ScalarText("SELECT Conference FROM TeamSetup WHERE SchoolName = ?", school);
-    if (!c)
-      c = S().ScalarText("SELECT Conference FROM LowLeagueSetup WHERE SchoolName = ?", school);
-    return c.value_or("");
-  };
-  EXPECT_EQ(conferenceOf("Duke"), "ACC");
-  EXPECT_EQ(conferenceOf("Miami (FL)"), "Big East");
-  EXPECT_EQ(conferenceOf("Penn State"), "Big Ten");
-  EXPECT_EQ(conferenceOf("Colorado"), "Big 12");
-  EXPECT_EQ(conferenceOf("Arizona"), "Pac-10");
-  EXPECT_EQ(conferenceOf("Kentucky"), "SEC");
-  EXPECT_EQ(conferenceOf("Creighton"), "MVC");
-  EXPECT_EQ(conferenceOf("Gonzaga"), "WCC");
-  EXPECT_EQ(conferenceOf("Marquette"), "Conference USA");
-  EXPECT_EQ(*S().ScalarText("SELECT Division FROM TeamSetup WHERE SchoolName = 'Kansas'"), "North");
-  EXPECT_EQ(*S().ScalarText("SELECT Division FROM TeamSetup WHERE SchoolName = 'Oklahoma'"),
-            "South");
-  EXPECT_EQ(*S().ScalarText("SELECT Team FROM NBASetup WHERE Team LIKE 'Memphis%'"),
-            "Memphis Grizzlies");
 }
 
 }  // namespace

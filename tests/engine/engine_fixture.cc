@@ -146,14 +146,6 @@ void EngineFixture::HealEveryone() {
   store().Exec("UPDATE ScrubPlayer SET TimeInjured = 0, Health = 'Good'");
 }
 
-std::vector<int> EngineFixture::PlayerIds(const std::string& school, bool scrub) {
-  std::vector<int> ids;
-  const std::string sql = std::string("SELECT Id FROM ") + (scrub ? "ScrubPlayer" : "Player") +
-                          " WHERE Team = ? ORDER BY Id";
-  for (auto rows = store().Query(sql, school); rows.Next();) ids.push_back(rows.Int(0));
-  return ids;
-}
-
 int EngineFixture::Play(Game& game, DayResults& day, int batchIndex, bool withLog, bool withFiles,
                         const std::string& home, const std::string& away) {
   GameRequest request;

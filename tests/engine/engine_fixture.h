@@ -35,9 +35,6 @@ class EngineFixture {
   // Ends every injury, as the weekly healing would.
   void HealEveryone();
 
-  // The ids of a school's players, in id order.
-  std::vector<int> PlayerIds(const std::string& school, bool scrub = false);
-
   // Plays one game home against away; returns RunEngine's result.
   int Play(Game& game, DayResults& day, int batchIndex = 0, bool withLog = false,
            bool withFiles = true, const std::string& home = kHomeSchool,

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "engine_fixture.h"
 #include "store/config.h"
 
@@ -113,29 +115,21 @@ TEST(TeamRecording, EqualPointsAreAnAwayWinAndPercentagesFollowTheirRules) {
   EXPECT_EQ(ticks, 2);
 
   auto row = [&](const char* school) {
-    return store.Query(
+    std::vector<double> values;
+    Rows rows = store.Query(
         "SELECT TotalWins, TotalLosses, HomeLosses, AwayWins, ConfWins, ConfLosses, WinPercent, "
         "FGPercent, FGPercentAllowed, PointsAllowed, PPG FROM TeamStats WHERE SchoolName = ?",
         std::string(school));
+    EXPECT_TRUE(rows.Next());
+    for (int k = 0; k < 11; ++k) values.push_back(rows.Double(k));
+    return values;
   };
-  auto home = row(kHomeSchool);
-  ASSERT_TRUE(home.Next());
-  EXPECT_EQ(home.Int(1), 1);
-  EXPECT_EQ(home.Int(2), 1);
-  EXPECT_EQ(home.Int(5), 1);
-  EXPECT_DOUBLE_EQ(home.Double(6), 0.0);
-  EXPECT_DOUBLE_EQ(home.Double(7), 0.25);  // no shots: the old value stays
-  EXPECT_NEAR(home.Double(8), 35.0 / 60.0, 1e-12);
-  EXPECT_EQ(home.Int(9), 70);
-
-  auto away = row(kAwaySchool);
-  ASSERT_TRUE(away.Next());
-  EXPECT_EQ(away.Int(0), 1);
-  EXPECT_EQ(away.Int(3), 1);
-  EXPECT_EQ(away.Int(4), 1);
-  EXPECT_DOUBLE_EQ(away.Double(6), 1.0 / 100.0);  // a hundredth of the winning fraction
-  EXPECT_DOUBLE_EQ(away.Double(8), 0.0);          // nothing allowed from the field: 0
-  EXPECT_DOUBLE_EQ(away.Double(10), 70.0);
+  // Home: no shots keeps the old FGPercent of 0.25. Away: the win percent
+  // is a hundredth of the winning fraction, nothing allowed from the field 0.
+  EXPECT_EQ(row(kHomeSchool),
+            (std::vector<double>{0, 1, 1, 0, 0, 1, 0.0, 0.25, 35.0 / 60.0, 70, 70}));
+  EXPECT_EQ(row(kAwaySchool),
+            (std::vector<double>{1, 0, 0, 1, 1, 0, 1.0 / 100.0, 35.0 / 60.0, 0.0, 70, 70}));
 }
 
 }  // namespace

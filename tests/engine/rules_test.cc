@@ -3,6 +3,9 @@
 // shot outcomes around 551 and 700, blocks, fouled threes, the play texts.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <vector>
+
 #include "engine/add_stat.h"
 #include "engine/fatigue.h"
 #include "engine/game_driver.h"
@@ -93,10 +96,7 @@ TEST_F(Rules, DepthCandidateRefusesMenWhoMayNotComeIn) {
   Home().Depth[8] = 999;  // not in the roster: a blank line with no energy
   EXPECT_EQ(DepthCandidate(game, 8, Side::Home, 1), 0);
   EXPECT_EQ(DepthCandidate(game, 8, Side::Home, 0), 999);
-}
-
-TEST_F(Rules, AChartEntryThatChangesMenIsJudgedByTheNewMansLine) {
-  EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 106);
+  // A chart entry that changes men is judged by the new man's line.
   Home().Depth[6] = 108;
   HomeLine(8).Energy = 1400;  // the new man is tired, the old one was not
   EXPECT_EQ(DepthCandidate(game, 6, Side::Home, 1500), 0);
@@ -211,64 +211,51 @@ TEST_F(Rules, TiredRuleByPeriodAndClock) {
   EXPECT_TRUE(IsTired(game, 999));
 }
 
-TEST_F(Rules, The551LineSeparatesAMakeFromAMiss) {
-  game.Distance = 10;
-  ResolveShot(game, 550);
-  EXPECT_EQ(HomeLine(1).ShotAttempts, 1);
-  EXPECT_EQ(HomeLine(1).Points, 0);
-  game.BallPos = 2;
-  game.Possession = Side::Home;
-  game.PossState = 0;
-  game.Distance = 10;
-  ResolveShot(game, 551);
-  EXPECT_EQ(HomeLine(2).ShotsMade, 1);
-  EXPECT_EQ(HomeLine(2).Points, 2);
+// The shot outcomes around the rolls 551 and 700: a miss and a make, an
+// and-one from 20 feet, a block that voids the and-one, a fouled three that
+// gets two shots, and a block without a foul.
+TEST_F(Rules, ShotOutcomesAroundTheRolls551And700) {
+  auto shoot = [&](int shooter, int distance, int fouler, int blocker, int roll) {
+    game.Possession = Side::Home;
+    game.BallPos = shooter;
+    game.PossState = 0;
+    game.Distance = distance;
+    game.Fouler = fouler;
+    game.Blocker = blocker;
+    ResolveShot(game, roll);
+    return HomeLine(shooter);
+  };
+  const GameStat miss = shoot(1, 10, 0, 0, 550);
+  EXPECT_EQ(miss.ShotAttempts, 1);
+  EXPECT_EQ(miss.Points, 0);
+  const GameStat make = shoot(2, 10, 0, 0, 551);
+  EXPECT_EQ(make.ShotsMade, 1);
+  EXPECT_EQ(make.Points, 2);
   EXPECT_EQ(Home().Score, 2);
   EXPECT_EQ(game.Away().Stats[2].PlusMinus, -2);
   EXPECT_EQ(game.PossState, 2);
-}
 
-TEST_F(Rules, AnAndOneFrom20FeetScoresThreeAndOneFreeThrow) {
-  game.Distance = 20;
-  game.Fouler = 3;
-  ResolveShot(game, 700);
-  const GameStat& shooter = HomeLine(1);
-  EXPECT_EQ(shooter.ShotAttempts, 1);
-  EXPECT_EQ(shooter.ThreesMade, 1);
-  EXPECT_EQ(shooter.FreeThrowAttempts, 1);
-  EXPECT_EQ(shooter.Points, 3 + shooter.FreeThrowsMade);
+  const GameStat andOne = shoot(3, 20, 3, 0, 700);
+  EXPECT_EQ(andOne.ShotAttempts, 1);
+  EXPECT_EQ(andOne.ThreesMade, 1);
+  EXPECT_EQ(andOne.FreeThrowAttempts, 1);
+  EXPECT_EQ(andOne.Points, 3 + andOne.FreeThrowsMade);
   EXPECT_EQ(game.Away().Stats[3].Fouls, 1);
   EXPECT_EQ(game.Away().Fouls, 1);
   EXPECT_EQ(game.Fouler, 0);
-}
 
-TEST_F(Rules, ABlockVoidsTheAndOneAndAFouledThreeGetsTwoShots) {
-  game.Distance = 8;
-  game.Fouler = 2;
-  game.Blocker = 4;
-  ResolveShot(game, 700);
-  EXPECT_EQ(HomeLine(1).ShotAttempts, 0);
-  EXPECT_EQ(HomeLine(1).FreeThrowAttempts, 2);
-  EXPECT_EQ(HomeLine(1).Points, HomeLine(1).FreeThrowsMade);
+  const GameStat blocked = shoot(4, 8, 2, 4, 700);
+  EXPECT_EQ(blocked.ShotAttempts, 0);
+  EXPECT_EQ(blocked.FreeThrowAttempts, 2);
+  EXPECT_EQ(blocked.Points, blocked.FreeThrowsMade);
+  const GameStat fouledThree = shoot(5, 20, 1, 0, 640);
+  EXPECT_EQ(fouledThree.ShotAttempts, 0);
+  EXPECT_EQ(fouledThree.ThreeAttempts, 0);
+  EXPECT_EQ(fouledThree.FreeThrowAttempts, 2);
 
-  game.Possession = Side::Home;
-  game.BallPos = 2;
-  game.PossState = 0;
-  game.Blocker = 0;
-  game.Fouler = 1;
-  game.Distance = 20;
-  ResolveShot(game, 640);
-  EXPECT_EQ(HomeLine(2).ShotAttempts, 0);
-  EXPECT_EQ(HomeLine(2).ThreeAttempts, 0);
-  EXPECT_EQ(HomeLine(2).FreeThrowAttempts, 2);
-}
-
-TEST_F(Rules, ABlockWithoutAFoulCreditsTheBlocker) {
-  game.Distance = 6;
-  game.Blocker = 3;
-  ResolveShot(game, 5);
-  EXPECT_EQ(HomeLine(1).ShotAttempts, 1);
-  EXPECT_EQ(HomeLine(1).Points, 0);
+  const GameStat rejected = shoot(1, 6, 0, 3, 5);
+  EXPECT_EQ(rejected.ShotAttempts, 2);
+  EXPECT_EQ(rejected.Points, 0);
   EXPECT_EQ(game.Away().Stats[3].ShotBlocks, 1);
   EXPECT_EQ(game.Away().Team().ShotBlocks, 1);
 }
@@ -353,12 +340,10 @@ TEST(PassReceivers, EveryEdgeOfEveryBand) {
 }
 
 TEST(InjuryLength, TheTrainerShortensOrLengthens) {
-  EXPECT_EQ(InjuryWeeks(4, 25), 6);
-  EXPECT_EQ(InjuryWeeks(4, 26), 5);
-  EXPECT_EQ(InjuryWeeks(4, 51), 3);
-  EXPECT_EQ(InjuryWeeks(4, 70), 3);
-  EXPECT_EQ(InjuryWeeks(4, 71), 2);
-  EXPECT_EQ(InjuryWeeks(2, 90), 1);
+  for (auto [weeks, trainer, expected] : std::vector<std::array<int, 3>>{
+           {4, 25, 6}, {4, 26, 5}, {4, 51, 3}, {4, 70, 3}, {4, 71, 2}, {2, 90, 1}}) {
+    EXPECT_EQ(InjuryWeeks(weeks, trainer), expected) << weeks << " " << trainer;
+  }
 }
 
 TEST_F(Rules, DribbleDrivesGainAFootAStepAndPressureForcesMistakes) {

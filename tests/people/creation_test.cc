@@ -1,7 +1,11 @@
 // Creating players: rosters, recruit classes, walk-ons and background teams.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include "people/league_fixture.h"
 #include "people/player_creation.h"
@@ -50,24 +54,19 @@ void ExpectInRange(const Player& p) {
     EXPECT_GE(p.*r, 25) << p.Id;
     EXPECT_LE(p.*r, 100) << p.Id;
   }
-  EXPECT_GE(p.Quickness, 20);
-  EXPECT_LE(p.Quickness, 77);
-  EXPECT_GE(p.Jumping, 30);
-  EXPECT_LE(p.Jumping, 77);
-  EXPECT_GE(p.FreeThrow, 20);
-  EXPECT_LE(p.FreeThrow, 95);
-  EXPECT_GE(p.Endurance, 1800);
-  EXPECT_LE(p.Endurance, 2150);
-  EXPECT_GE(p.Range, 12);
-  EXPECT_LE(p.Range, 24);
-  EXPECT_GE(p.Potential, 30);
-  EXPECT_LE(p.Potential, 90);
-  EXPECT_GE(p.Intelligence, 30);
-  EXPECT_LE(p.Intelligence, 80);
-  EXPECT_GE(p.AvoidInjury, 45);
-  EXPECT_LE(p.AvoidInjury, 100);
-  EXPECT_GT(p.GPA, 1.6);
-  EXPECT_LE(p.GPA, 4.0);
+  for (auto [value, low, high] :
+       std::vector<std::tuple<double, double, double>>{{p.Quickness, 20, 77},
+                                                       {p.Jumping, 30, 77},
+                                                       {p.FreeThrow, 20, 95},
+                                                       {p.Endurance, 1800, 2150},
+                                                       {p.Range, 12, 24},
+                                                       {p.Potential, 30, 90},
+                                                       {p.Intelligence, 30, 80},
+                                                       {p.AvoidInjury, 45, 100},
+                                                       {p.GPA, 1.61, 4.0}}) {
+    EXPECT_GE(value, low) << p.Id;
+    EXPECT_LE(value, high) << p.Id;
+  }
   EXPECT_EQ(p.Reach, HeightInches(p.Height));
   EXPECT_EQ(p.Health, "Good");
 }
@@ -110,7 +109,7 @@ TEST(CreateTeamRoster, ThirteenPlayersThreeOfEachClassAndOneMore) {
   EXPECT_EQ(league.session().config.NextId, 1 + 8 * 13);
 }
 
-TEST(CreatePlayers, ARegionBatchOf25FillsEveryPositionToItsCap) {
+TEST(CreatePlayers, ARegionBatchFillsEveryPositionToItsCapAndFollowsPrestige) {
   testing::LeagueFixture league(5);
   PlayerBatch batch = PlayerBatch::Begin(league.session());
   int hooked = 0;
@@ -134,77 +133,65 @@ TEST(CreatePlayers, ARegionBatchOf25FillsEveryPositionToItsCap) {
                 "SELECT count(*) FROM Recruit WHERE Region = 'South' AND Team1 = 'Somewhere' AND "
                 "ScoutingReport <> '' AND Area <> '' AND PPG > 0 AND GPA > 0"),
             25);
+  // Prestige 0 makes only poor players.
+  CreatePlayers(league.session(), batch, "West", "West", 0, 30, 0, 6);
+  EXPECT_EQ(league.store().ScalarInt(
+                "SELECT count(*) FROM Recruit WHERE Region = 'West' AND RecruitType = 'Poor'"),
+            30);
 }
 
-TEST(CreatePlayers, PrestigeZeroMakesOnlyPoorPlayers) {
-  testing::LeagueFixture league(6);
-  PlayerBatch batch = PlayerBatch::Begin(league.session());
-  CreatePlayers(league.session(), batch, "West", "West", 0, 30, 0, 6);
-  EXPECT_EQ(league.store().ScalarInt("SELECT count(*) FROM Recruit WHERE RecruitType = 'Poor'"),
-            30);
+// The heights a man of each position is built with (index 0 unused).
+constexpr std::array<std::pair<int, int>, 6> kHeights = {
+    {{0, 0}, {68, 74}, {73, 77}, {75, 80}, {77, 82}, {79, 86}}};
+
+// How many of each position a team has; every man has the height of the
+// position he was built at.
+std::array<int, 6> CountMade(testing::LeagueFixture& league, const std::string& team) {
+  std::array<int, 6> made{};
+  for (const Player& p : PlayersOf(league.store(), team)) {
+    ++made[p.PlayerPosition];
+    EXPECT_GE(p.Reach, kHeights[p.PlayerPosition].first) << team << " " << p.PlayerPosition;
+    EXPECT_LE(p.Reach, kHeights[p.PlayerPosition].second) << team << " " << p.PlayerPosition;
+  }
+  return made;
+}
+
+// Makes `count` players one at a time, each with the positions' counters
+// `full` before his roll.
+std::array<int, 6> MakeOneByOne(testing::LeagueFixture& league, PlayerBatch& batch,
+                                const std::string& team, int count, std::array<int, 6> full,
+                                int cap) {
+  for (int i = 0; i < count; ++i) {
+    batch.positions.Clear();
+    for (int position = kPG; position <= kC; ++position) batch.positions[position] = full[position];
+    CreatePlayers(league.session(), batch, team, "East", 50, 1, 1, cap);
+  }
+  return CountMade(league, team);
 }
 
 TEST(CreatePlayers, AFullPositionHandsTheRollOn) {
   testing::LeagueFixture league(8);
   PlayerBatch batch = PlayerBatch::Begin(league.session());
-  std::array<int, 6> made{};
-  for (int i = 0; i < 150; ++i) {
-    // Only the shooting guards are full: a rolled guard goes to C, the first
-    // position with room, with a centre's height.
-    batch.positions.Clear();
-    batch.positions[kSG] = 1;
-    CreatePlayers(league.session(), batch, "Team A", "East", 50, 1, 1, 1);
-  }
-  for (const Player& p : PlayersOf(league.store(), "Team A")) {
-    ++made[p.PlayerPosition];
-    if (p.PlayerPosition == kC) {
-      EXPECT_GE(p.Reach, 79);
-      EXPECT_LE(p.Reach, 86);
-    }
-  }
+  // Only the shooting guards are full: a rolled guard goes to C, the first
+  // position with room, with a centre's height.
+  std::array<int, 6> made = MakeOneByOne(league, batch, "Team A", 150, {0, 0, 1, 0, 0, 0}, 1);
   EXPECT_EQ(made[kSG], 0);
   EXPECT_GT(made[kC], made[kPF]);  // its own rolls and the guards' rolls
-
   // Only the point guards have room: everyone becomes a point guard.
-  for (int i = 0; i < 40; ++i) {
-    batch.positions.Clear();
-    for (int position : {kSG, kSF, kPF, kC}) batch.positions[position] = 2;
-    CreatePlayers(league.session(), batch, "Team B", "East", 50, 1, 1, 2);
-  }
-  for (const Player& p : PlayersOf(league.store(), "Team B")) {
-    EXPECT_EQ(p.PlayerPosition, kPG);
-    EXPECT_GE(p.Reach, 68);
-    EXPECT_LE(p.Reach, 74);
-  }
-
-  // A full centre with room at PF: always a PF, of the height of the roll 30.
-  for (int i = 0; i < 60; ++i) {
-    batch.positions.Clear();
-    batch.positions[kC] = 1;
-    batch.positions[kPG] = batch.positions[kSG] = batch.positions[kSF] = 1;
-    CreatePlayers(league.session(), batch, "Team C", "East", 50, 1, 1, 1);
-  }
-  for (const Player& p : PlayersOf(league.store(), "Team C")) {
-    EXPECT_EQ(p.PlayerPosition, kPF);
-    EXPECT_GE(p.Reach, 77);
-    EXPECT_LE(p.Reach, 82);
-  }
+  made = MakeOneByOne(league, batch, "Team B", 40, {0, 0, 2, 2, 2, 2}, 2);
+  EXPECT_EQ(made[kPG], 40);
+  // A full centre with room at PF: always a PF.
+  made = MakeOneByOne(league, batch, "Team C", 60, {0, 1, 1, 1, 0, 1}, 1);
+  EXPECT_EQ(made[kPF], 60);
 }
 
 TEST(CreatePlayers, WithNoPositionBelowTheCapTheRollIsTakenAsItCame) {
   testing::LeagueFixture league(9);
   PlayerBatch batch = PlayerBatch::Begin(league.session());
   for (int position = kPG; position <= kC; ++position) batch.positions[position] = 1;
-  CreatePlayers(league.session(), batch, "Team A", "East", 50, 60, 1, 1);
+  CreatePlayers(league.session(), batch, "Team D", "East", 50, 60, 1, 1);
   // Each man is built at the position of his own roll, with its height.
-  const std::array<std::pair<int, int>, 6> heights = {
-      {{0, 0}, {68, 74}, {73, 77}, {75, 80}, {77, 82}, {79, 86}}};
-  std::array<int, 6> made{};
-  for (const Player& p : PlayersOf(league.store(), "Team A")) {
-    ++made[p.PlayerPosition];
-    EXPECT_GE(p.Reach, heights[p.PlayerPosition].first) << p.PlayerPosition;
-    EXPECT_LE(p.Reach, heights[p.PlayerPosition].second) << p.PlayerPosition;
-  }
+  const std::array<int, 6> made = CountMade(league, "Team D");
   for (int position = kPG; position <= kC; ++position) {
     EXPECT_GT(made[position], 1) << position;
     EXPECT_EQ(batch.positions[position], 1 + made[position]);
@@ -226,10 +213,14 @@ TEST(AddWalkOns, FillsShortRostersWithSeniors) {
             3);
 }
 
+// The class of a region is its seniors, its early leavers (above 86 always,
+// at most the 51 best) and five more.
 TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
   testing::LeagueFixture league(12);
   league.AddTeam("West U", "West", 70);
   league.AddTeam("East U", "East", 70);
+  league.AddTeam("South U", "South", 70);
+  league.AddTeam("South State", "South", 70);
   league.AddPlayer("West U", kPG, 60, "Senior");
   league.AddPlayer("West U", kSG, 60, "Senior");
   const int star = league.AddPlayer("West U", kSF, 90, "Junior");  // above 86: always leaves
@@ -238,20 +229,14 @@ TEST(RegionRecruits, EarlyLeaversAndSeniorsSizeTheClass) {
   EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 2 + 1 + 5);
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", star), 1);
   EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", good), 0);
-}
 
-TEST(RegionRecruits, ARegionHoldsFiftyOneEarlyLeaversAtMostTheBestOnes) {
-  testing::LeagueFixture league(15);
-  league.AddTeam("West U", "West", 70);
-  league.AddTeam("West State", "West", 70);
   std::vector<int> ids;
   for (int i = 0; i < 60; ++i) {
     // All above 86, so each would leave; the best come first.
     ids.push_back(
-        league.AddPlayer(i % 2 == 0 ? "West U" : "West State", kSF, 87 + i * 0.1, "Sophomore"));
+        league.AddPlayer(i % 2 == 0 ? "South U" : "South State", kSF, 87 + i * 0.1, "Sophomore"));
   }
-  league.AddPlayer("West U", kPG, 60, "Senior");
-  EXPECT_EQ(RegionRecruitCount(league.session(), "West"), 1 + 51 + 5);
+  EXPECT_EQ(RegionRecruitCount(league.session(), "South"), 51 + 5);
   for (int i = 0; i < 60; ++i) {
     EXPECT_EQ(league.store().ScalarInt("SELECT NBAFlag FROM Player WHERE Id = ?", ids[i]),
               i >= 9 ? 1 : 0)

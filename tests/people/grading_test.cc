@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "people/league_fixture.h"
 #include "people/player_creation.h"
@@ -15,22 +17,21 @@ namespace courtmere {
 namespace {
 
 TEST(GradeScales, TestsAreStrictFromTheTop) {
-  EXPECT_EQ(GradeLetter(75), 'A');
-  EXPECT_EQ(GradeLetter(74), 'B');
-  EXPECT_EQ(GradeLetter(74.01), 'A');
-  EXPECT_EQ(GradeLetter(62), 'C');
-  EXPECT_EQ(GradeLetter(63), 'B');
-  EXPECT_EQ(GradeLetter(49), 'D');
-  EXPECT_EQ(GradeLetter(50), 'C');
-  EXPECT_EQ(GradeLetter(40), 'F');
-  EXPECT_EQ(GradeLetter(41), 'D');
-  EXPECT_EQ(PotentialGradeLetter(75), 'B');
-  EXPECT_EQ(PotentialGradeLetter(76), 'A');
-  EXPECT_EQ(PotentialGradeLetter(60), 'C');
-  EXPECT_EQ(PotentialGradeLetter(61), 'B');
-  EXPECT_EQ(PotentialGradeLetter(50), 'D');
-  EXPECT_EQ(PotentialGradeLetter(51), 'C');
-  EXPECT_EQ(PotentialGradeLetter(40), 'F');
+  for (auto [value, grade] : std::vector<std::pair<double, char>>{{75, 'A'},
+                                                                  {74.01, 'A'},
+                                                                  {74, 'B'},
+                                                                  {63, 'B'},
+                                                                  {62, 'C'},
+                                                                  {50, 'C'},
+                                                                  {49, 'D'},
+                                                                  {41, 'D'},
+                                                                  {40, 'F'}}) {
+    EXPECT_EQ(GradeLetter(value), grade) << value;
+  }
+  for (auto [value, grade] : std::vector<std::pair<int, char>>{
+           {76, 'A'}, {75, 'B'}, {61, 'B'}, {60, 'C'}, {51, 'C'}, {50, 'D'}, {40, 'F'}}) {
+    EXPECT_EQ(PotentialGradeLetter(value), grade) << value;
+  }
 }
 
 TEST(ScoutSpread, ShrinksAsTheScoutGetsBetter) {
@@ -181,14 +182,19 @@ TEST(RecruitReport, TheMarkOfTheGradeDecides) {
   EXPECT_LT(low, draws * 0.6);
 }
 
-TEST(RecruitStats, WeakPlayerFallsIntoEverySmallCase) {
+// A weak player falls into every small case; a strong point guard is scaled.
+TEST(RecruitStats, WeakPlayersFallIntoTheSmallCasesStrongOnesAreScaled) {
   Rng rng(4);
-  Player p;
-  p.PlayerPosition = kPG;
-  p.Intelligence = 40;
+  Player weak;
+  weak.PlayerPosition = kPG;
+  weak.Intelligence = 40;
+  Player strong = weak;
+  strong.Passing = strong.Handling = 90;  // 90 - 50 = 40, up to 54, over 2.5
+  strong.ThreePoint = strong.Jumpshot = 90;
+  strong.Intelligence = 100;  // 70 / 9.5 is above 4
   for (int i = 0; i < 300; ++i) {
     Recruit r;
-    RecruitStats(rng, p, r);
+    RecruitStats(rng, weak, r);
     EXPECT_GE(r.PPG, 5);
     EXPECT_LT(r.PPG, 12);
     EXPECT_GE(r.APG, 1);
@@ -200,25 +206,14 @@ TEST(RecruitStats, WeakPlayerFallsIntoEverySmallCase) {
     EXPECT_GE(r.GPA, 1.5);
     EXPECT_LT(r.GPA, 2.5);
     EXPECT_NEAR(r.TOs, 100.0 / 11, 10.0 / 11);
-  }
-}
-
-TEST(RecruitStats, StrongPointGuardIsScaled) {
-  Rng rng(4);
-  Player p;
-  p.PlayerPosition = kPG;
-  p.Passing = p.Handling = 90;  // 90 - 50 = 40, up to 54, over 2.5
-  p.ThreePoint = p.Jumpshot = 90;
-  p.Intelligence = 100;  // 70 / 9.5 is above 4
-  for (int i = 0; i < 200; ++i) {
-    Recruit r;
-    RecruitStats(rng, p, r);
-    EXPECT_GE(r.APG, 40 / 2.5);
-    EXPECT_LE(r.APG, 54 / 2.5);
-    EXPECT_GE(r.PPG, 40);
-    EXPECT_LE(r.PPG, 54);
-    EXPECT_GE(r.GPA, 3.2);
-    EXPECT_LT(r.GPA, 4.0);
+    Recruit s;
+    RecruitStats(rng, strong, s);
+    EXPECT_GE(s.APG, 40 / 2.5);
+    EXPECT_LE(s.APG, 54 / 2.5);
+    EXPECT_GE(s.PPG, 40);
+    EXPECT_LE(s.PPG, 54);
+    EXPECT_GE(s.GPA, 3.2);
+    EXPECT_LT(s.GPA, 4.0);
   }
 }
 

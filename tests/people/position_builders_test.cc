@@ -77,7 +77,10 @@ void ExpectSpans(int position, int height, const std::vector<RatingRow>& rows) {
   }
 }
 
-TEST(BuildPG, EveryRatingSpansItsClassesRow) {
+// Every rating of every builder spans its class's row; the rebounding of
+// guards from 73 (PG) and 74 (SG) inches, and the handling of big men from
+// 84 inches, take the span of the other side of the edge.
+TEST(BuildPosition, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kPG, 72,
               {{&Player::Handling, "Handling", kPrime},
                {&Player::Passing, "Passing", kPrime},
@@ -95,12 +98,8 @@ TEST(BuildPG, EveryRatingSpansItsClassesRow) {
                Any(&Player::Strength, "Strength", 15, 30),
                Any(&Player::PostDefense, "PostDefense", 25, 25),
                Any(&Player::Range, "Range", 4, 20)});
-  // From 73 inches the rebounding skills take the taller span.
   ExpectSpans(kPG, 73,
               {Any(&Player::DefReb, "DefReb", 25, 40), Any(&Player::OffReb, "OffReb", 25, 40)});
-}
-
-TEST(BuildSG, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kSG, 73,
               {{&Player::ThreePoint, "ThreePoint", kPrime},
                {&Player::Jumpshot, "Jumpshot", kPrime},
@@ -120,9 +119,6 @@ TEST(BuildSG, EveryRatingSpansItsClassesRow) {
                Any(&Player::Range, "Range", 3, 21)});
   ExpectSpans(kSG, 74,
               {Any(&Player::DefReb, "DefReb", 25, 45), Any(&Player::OffReb, "OffReb", 25, 45)});
-}
-
-TEST(BuildSF, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kSF, 77,
               {{&Player::Jumpshot, "Jumpshot", {{{17, 60}, {20, 50}, {20, 45}, {30, 35}}}},
                {&Player::OffReb, "OffReb", {{{20, 55}, {20, 50}, {20, 45}, {30, 35}}}},
@@ -139,9 +135,6 @@ TEST(BuildSF, EveryRatingSpansItsClassesRow) {
                {&Player::Handling, "Handling", {{{15, 50}, {15, 50}, {20, 40}, {30, 30}}}},
                {&Player::Potential, "Potential", kPotential},
                Any(&Player::Strength, "Strength", 20, 35)});
-}
-
-TEST(BuildPF, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kPF, 83,
               {{&Player::InScoring, "InScoring", kPrime},
                {&Player::OffReb, "OffReb", kPrime},
@@ -158,11 +151,7 @@ TEST(BuildPF, EveryRatingSpansItsClassesRow) {
                Any(&Player::ThreePoint, "ThreePoint", 30, 30),
                Any(&Player::Handling, "Handling", 20, 40),
                Any(&Player::Strength, "Strength", 35, 40)});
-  // From 84 inches the handling takes the shorter span.
   ExpectSpans(kPF, 84, {Any(&Player::Handling, "Handling", 20, 25)});
-}
-
-TEST(BuildC, EveryRatingSpansItsClassesRow) {
   ExpectSpans(kC, 83,
               {{&Player::InScoring, "InScoring", kPrime},
                {&Player::OffReb, "OffReb", kPrime},
@@ -209,7 +198,9 @@ void ExpectDependentSpans(const DependentBands& d) {
   }
 }
 
-TEST(FreeThrows, FollowTheJumpShotBands) {
+// Free throws follow the jump shot's bands; a shooting range follows the
+// three-point shot.
+TEST(DependentRatings, FollowTheBandsOfTheirRating) {
   for (int position : {kPG, kSG, kPF}) {
     ExpectDependentSpans(
         {position, &Player::Jumpshot, &Player::FreeThrow, 51, 70, {25, 50}, {30, 55}, {35, 60}});
@@ -218,9 +209,7 @@ TEST(FreeThrows, FollowTheJumpShotBands) {
       {kSF, &Player::Jumpshot, &Player::FreeThrow, 51, 70, {35, 40}, {30, 45}, {35, 50}});
   ExpectDependentSpans(
       {kC, &Player::Jumpshot, &Player::FreeThrow, 51, 70, {20, 50}, {25, 55}, {30, 60}});
-}
 
-TEST(ShootingRange, FollowsTheThreePointShot) {
   constexpr Span kNone = {-1, 0};
   // A small forward below 51 in threes: 19 to 22, else 20 to 22.
   ExpectDependentSpans({kSF, &Player::ThreePoint, &Player::Range, 51, 50, {3, 19}, kNone, {2, 20}});

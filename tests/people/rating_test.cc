@@ -24,17 +24,15 @@ Player Even(int position, int value) {
   return p;
 }
 
-TEST(DerivedRatings, ShotBlockOfA76InchPlayerEqualsHisEvenRatings) {
+TEST(DerivedRatings, EvenRatingsAt76InchesAndHalvesToEven) {
   Player p = Even(kC, 60);
   ComputeDerivedRatings(p);
   EXPECT_EQ(p.ShotBlock, 60);
   EXPECT_EQ(p.Steal, 60);
   EXPECT_EQ(p.OffRebounding, 0.75 * 60 + 60 + 30 + 30);
   EXPECT_EQ(p.DefRebounding, 165);
-}
-
-TEST(DerivedRatings, HalvesRoundToTheEvenNeighbour) {
-  Player p = Even(kPG, 60);
+  // Halves round to the even neighbour.
+  p.PlayerPosition = kPG;
   p.PerrDefense = 58;  // 43.5 + 15 = 58.5 -> 58
   ComputeDerivedRatings(p);
   EXPECT_EQ(p.Steal, 58);
@@ -54,15 +52,15 @@ TEST(DerivedRatings, HalvesRoundToTheEvenNeighbour) {
   EXPECT_EQ(p.DefRebounding, 168);
 }
 
-TEST(Overall, EvenPlayerOfEveryPositionRatesHisRating) {
+// An even player rates his rating at every position; the position weighs
+// its skills; an unknown position keeps his Overall and has no athletic
+// value; endurance counts through its own scale.
+TEST(Overall, WeighsThePositionsSkills) {
   for (int position = kPG; position <= kC; ++position) {
     Player p = Even(position, 70);
     ComputeOverall(p);
     EXPECT_EQ(p.Overall, 70.0) << PositionName(position);
   }
-}
-
-TEST(Overall, WeighsThePositionsSkills) {
   Player p = Even(kPG, 50);
   p.Passing = 94;  // 0.8 * 44 / 4.35 more
   ComputeOverall(p);
@@ -73,38 +71,22 @@ TEST(Overall, WeighsThePositionsSkills) {
   p.PlayerPosition = kSF;  // nor does a small forward at all
   ComputeOverall(p);
   EXPECT_NEAR(p.Overall, 50, 1e-9);
+
+  Player unknown = Even(0, 70);
+  unknown.Overall = 12.5;
+  ComputeOverall(unknown);
+  EXPECT_EQ(unknown.Overall, 12.5);
+  EXPECT_EQ(AthleticValue(unknown), 0);
+
+  Player big = Even(kPF, 60);
+  big.Endurance = 2100;  // E = 30
+  EXPECT_NEAR(AthleticValue(big), (42 + 18 + 42 + 30) / 2.0, 1e-9);
+  big.PlayerPosition = kSG;
+  EXPECT_NEAR(AthleticValue(big), (12 + 60 + 42 + 30) / 2.2, 1e-9);
 }
 
-TEST(Overall, UnknownPositionKeepsHisOverall) {
-  Player p = Even(0, 70);
-  p.Overall = 12.5;
-  ComputeOverall(p);
-  EXPECT_EQ(p.Overall, 12.5);
-  EXPECT_EQ(AthleticValue(p), 0);
-}
-
-TEST(AthleticValue, EnduranceCountsThroughItsOwnScale) {
-  Player p = Even(kPF, 60);
-  p.Endurance = 2100;  // E = 30
-  EXPECT_NEAR(AthleticValue(p), (42 + 18 + 42 + 30) / 2.0, 1e-9);
-  p.PlayerPosition = kSG;
-  EXPECT_NEAR(AthleticValue(p), (12 + 60 + 42 + 30) / 2.2, 1e-9);
-}
-
-TEST(CapRatings, BringsTheTwelveSkillsBackToAHundredAndLeavesTheOthers) {
-  Player p = Even(kC, 130);
-  p.Endurance = 2100;
-  p.Range = 120;
-  CapRatings(p);
-  EXPECT_EQ(p.Strength, 100);
-  EXPECT_EQ(p.ThreePoint, 100);
-  EXPECT_EQ(p.OffAware, 100);
-  EXPECT_EQ(p.Quickness, 130);
-  EXPECT_EQ(p.Jumping, 130);
-  EXPECT_EQ(p.Endurance, 2100);
-  EXPECT_EQ(p.Range, 120);
-}
-
+// Development gains pass a hundred; the cap brings the twelve skills back
+// to a hundred and leaves the others.
 TEST(DevelopOneYear, GainsPassAHundredUntilTheCap) {
   Rng rng(7);
   Player p = Even(kPG, 100);
@@ -116,6 +98,17 @@ TEST(DevelopOneYear, GainsPassAHundredUntilTheCap) {
   CapRatings(p);
   EXPECT_EQ(p.Handling, 100);
   EXPECT_EQ(p.OffAware, 100);
+
+  Player over = Even(kC, 130);
+  over.Endurance = 2100;
+  over.Range = 120;
+  CapRatings(over);
+  EXPECT_EQ(over.Strength, 100);
+  EXPECT_EQ(over.ThreePoint, 100);
+  EXPECT_EQ(over.Quickness, 130);
+  EXPECT_EQ(over.Jumping, 130);
+  EXPECT_EQ(over.Endurance, 2100);
+  EXPECT_EQ(over.Range, 120);
 }
 
 TEST(DevelopOneYear, PrimaryGainsOutrunSecondaryOnesAndOnlyCentresGainStrengthFirst) {

@@ -21,13 +21,12 @@ TEST(StaffCreation, ANewDynastyGivesEachSchoolItsStaffAndTwoCandidatesOfEach) {
   CreateTrainers(league.session(), 0);
   Store& s = league.store();
   for (const char* school : {"St. John's", "Duke", "Tulsa"}) {
-    const std::string looking = std::string("Looking at ") + school;
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Coach WHERE Team = ?", school), 3);
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Coach WHERE Team = ?", looking), 2);
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Scout WHERE Team = ?", school), 1);
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Scout WHERE Team = ?", looking), 2);
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Trainer WHERE Team = ?", school), 1);
-    EXPECT_EQ(Count(s, "SELECT count(*) FROM Trainer WHERE Team = ?", looking), 2);
+    for (auto [table, staff] :
+         {std::pair("Coach", 3), std::pair("Scout", 1), std::pair("Trainer", 1)}) {
+      const std::string sql = std::string("SELECT count(*) FROM ") + table + " WHERE Team = ?";
+      EXPECT_EQ(Count(s, sql, school), staff) << table;
+      EXPECT_EQ(Count(s, sql, std::string("Looking at ") + school), 2) << table;
+    }
   }
   EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Coach WHERE Name NOT LIKE '_% _%' OR "
                         "OffPoints <> 0 OR RecPoints <> 0 OR RecruitRegion NOT IN "

@@ -72,17 +72,15 @@ TEST_F(PreseasonTest, FieldsAreDrawnByRatingRank) {
     for (int s = 6; s <= 8; ++s) {
       EXPECT_EQ(seeds[s], background[field.backgroundRanks[s - 6] - 1]);
     }
-    for (int s = 1; s <= 8; ++s) EXPECT_TRUE(entrants.insert(seeds[s]).second) << seeds[s];
+    for (int s = 1; s <= 8; ++s) {
+      EXPECT_TRUE(entrants.insert(seeds[s]).second) << seeds[s];
+      EXPECT_EQ(league_.IsBackground(seeds[s]), s > 5) << seeds[s];
+    }
   }
   EXPECT_EQ(league_.store().RowCount("PreSeasonTourney"), 24);
   EXPECT_EQ(Field(league_.store(), "Hawaii Classic")[1], teams[0]);
   EXPECT_EQ(Field(league_.store(), "Alaska Challenge")[1], teams[1]);
   for (int rank = 0; rank < 4; ++rank) EXPECT_EQ(entrants.count(background[rank]), 0u);
-  // Every background entrant is a background team, and the others are not.
-  for (const PreseasonField& field : kPreseasonFields) {
-    const auto seeds = Field(league_.store(), std::string(field.name));
-    for (int s = 1; s <= 8; ++s) EXPECT_EQ(league_.IsBackground(seeds[s]), s > 5);
-  }
 }
 
 TEST_F(PreseasonTest, WeekOneRowsCarryPairingTextsAndCodes) {
@@ -113,9 +111,6 @@ TEST_F(PreseasonTest, WeekOneRowsCarryPairingTextsAndCodes) {
       EXPECT_EQ(row.AwayConf, field.codes[2 * i + 1]);
     }
   }
-  EXPECT_EQ(kPreseasonFields[0].codes[0], "MauiW1-8C");
-  EXPECT_EQ(kPreseasonFields[0].codes[4], "MauiWF1C");
-  EXPECT_EQ(kPreseasonFields[1].codes[5], "AlaskaW2C");
 }
 
 TEST_F(PreseasonTest, WinnersMoveOnAsTheDaysAreRecorded) {
