@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "league/bracket_slots.h"
 #include "league/postseason_fixture.h"
 
@@ -80,16 +82,37 @@ int GamesOn(Store& store, const LeagueRow& league, const std::string& day) {
                               .value());
 }
 
-TEST(ConfTourneySize, TakesAtMostTheFirstTwoCharacters) {
-  EXPECT_EQ(ConfTourneySize("12C"), "12");
-  EXPECT_EQ(ConfTourneySize("9"), "9");
-  EXPECT_EQ(ConfTourneySize("14"), "14");
+std::vector<std::pair<std::string, std::string>> FridayPairs(Store& store,
+                                                             const LeagueRow& league) {
+  std::vector<std::pair<std::string, std::string>> pairs;
+  for (Rows r = store.Query("SELECT HomeTeam, AwayTeam FROM " + league.table +
+                            " WHERE Week = 16 AND GameDay = 'Friday' ORDER BY GameNo");
+       r.Next();) {
+    pairs.emplace_back(r.Text(0), r.Text(1));
+  }
+  return pairs;
 }
 
-TEST(ConfTourney, EveryFieldSizeSeedsByStandingAndCrownsOneChampion) {
+TEST(ConfTourneySize, TakesAtMostTheFirstTwoCharacters) {
+  for (auto [type, size] : {std::pair{"12C", "12"}, {"9", "9"}, {"14", "14"}}) {
+    EXPECT_EQ(ConfTourneySize(type), size);
+  }
+}
+
+TEST(ConfTourney, EveryFieldSizeSeedsByStandingAndCrownsOneChampionASmallerIsRefused) {
   PostseasonFixture probe;
-  const int largest = TeamsIn(probe.store(), LargestOtherConference(probe).conference);
+  const LeagueRow largestLeague = LargestOtherConference(probe);
+  const int largest = TeamsIn(probe.store(), largestLeague.conference);
   ASSERT_GE(largest, 9);
+  // A field too small to be drawn is refused and nothing written.
+  Resize(probe.store(), largestLeague, kConfSmallestField - 1);
+  const std::string before = testing::DumpStore(probe.store());
+  SetupConfTourney(probe.session(), largestLeague.conference,
+                   std::to_string(kConfSmallestField - 1));
+  EXPECT_EQ(testing::DumpStore(probe.store()), before);
+  ASSERT_FALSE(probe.ui().Messages().empty());
+  EXPECT_NE(probe.ui().Messages().back().find(largestLeague.conference), std::string::npos);
+
   for (int field = kConfSmallestField; field <= largest; ++field) {
     SCOPED_TRACE(field);
     PostseasonFixture p(100 + static_cast<uint64_t>(field));
@@ -112,6 +135,14 @@ TEST(ConfTourney, EveryFieldSizeSeedsByStandingAndCrownsOneChampion) {
     for (const char* day : {"Thursday", "Friday", "Saturday", "Sunday"}) {
       p.PlayDay(league.table, 16, day);
       AdvanceConfTourney(p.session(), league.conference, 16, day);
+      if (field == kConfSmallestField && day == std::string("Thursday")) {
+        // Eight teams: 1 against 8, 4 against 5, 2 against 7, 3 against 6.
+        EXPECT_EQ(FridayPairs(p.store(), league),
+                  (std::vector<std::pair<std::string, std::string>>{{standing[0], standing[7]},
+                                                                    {standing[3], standing[4]},
+                                                                    {standing[1], standing[6]},
+                                                                    {standing[2], standing[5]}}));
+      }
     }
     EXPECT_EQ(GamesOn(p.store(), league, "Friday"), 4);
     EXPECT_EQ(GamesOn(p.store(), league, "Saturday"), 2);
@@ -132,26 +163,6 @@ TEST(ConfTourney, EveryFieldSizeSeedsByStandingAndCrownsOneChampion) {
   }
 }
 
-TEST(ConfTourney, WithEightTeamsThursdaySetsUpFridaysGames) {
-  PostseasonFixture p;
-  const LeagueRow league = LargestOtherConference(p);
-  Resize(p.store(), league, 8);
-  const std::vector<std::string> s = Standing(p.store(), league.conference);
-  SetupConfTourney(p.session(), league.conference, "8");
-  EXPECT_EQ(GamesOn(p.store(), league, "Thursday"), 0);
-  AdvanceConfTourney(p.session(), league.conference, 16, "Thursday");
-  std::vector<std::pair<std::string, std::string>> friday;
-  for (Rows r = p.store().Query("SELECT HomeTeam, AwayTeam FROM " + league.table +
-                                " WHERE Week = 16 AND GameDay = 'Friday' ORDER BY GameNo");
-       r.Next();) {
-    friday.emplace_back(r.Text(0), r.Text(1));
-  }
-  // 1 against 8, 4 against 5, 2 against 7, 3 against 6.
-  const std::vector<std::pair<std::string, std::string>> expected = {
-      {s[0], s[7]}, {s[3], s[4]}, {s[1], s[6]}, {s[2], s[5]}};
-  EXPECT_EQ(friday, expected);
-}
-
 TEST(ConfTourney, TheOtherDivisionsBestIsSeedTwo) {
   PostseasonFixture p;
   const LeagueRow league = LargestOtherConference(p);
@@ -170,50 +181,26 @@ TEST(ConfTourney, TheOtherDivisionsBestIsSeedTwo) {
   EXPECT_EQ(Slot(p.store(), league.conference, ConfSeedSlot(4, field)), s[3]);
 }
 
-TEST(ConfTourney, RefusesAFieldThatCannotBeDrawnAndWritesNothing) {
-  PostseasonFixture p;
-  const LeagueRow league = LargestOtherConference(p);
-  Resize(p.store(), league, 7);
-  const std::string before = testing::DumpStore(p.store());
-  SetupConfTourney(p.session(), league.conference, "7");
-  EXPECT_EQ(testing::DumpStore(p.store()), before);
-  ASSERT_FALSE(p.ui().Messages().empty());
-  EXPECT_NE(p.ui().Messages().back().find(league.conference), std::string::npos);
-}
-
-TEST(ConfTourney, ADayTakenAgainMovesNobodyOnTwice) {
-  PostseasonFixture p;
-  p.SetupConferenceTourneys();
-  const std::vector<LeagueRow> leagues = p.Leagues();
-  for (const char* day : {"Thursday", "Friday", "Saturday", "Sunday"}) {
-    p.PlayConferenceDay(day);
-    const std::string once = testing::DumpStore(p.store());
-    for (const LeagueRow& league : leagues) {
-      AdvanceConfTourney(p.session(), league.conference, 16, day);
-    }
-    EXPECT_EQ(testing::DumpStore(p.store()), once) << day;
-  }
-  // Setting up again leaves every bracket as it stands.
-  const std::string done = testing::DumpStore(p.store());
-  p.SetupConferenceTourneys();
-  EXPECT_EQ(testing::DumpStore(p.store()), done);
-}
-
-TEST(ConfTourney, ADayPlayedInTwoPartsEndsAsOnePlayedWhole) {
+// A day whose batch stopped after its first game ends as one played whole,
+// and every day taken again moves nobody on twice.
+TEST(ConfTourney, ADayPlayedInTwoPartsOrTakenAgainMovesNobodyOnTwice) {
   PostseasonFixture p;
   const LeagueRow league = LargestOtherConference(p);
   p.SetupConferenceTourneys();
-  const int thursday = GamesOn(p.store(), league, "Thursday");
-  ASSERT_GE(thursday, 2);
-  // The batch stopped after its first game: that result is taken, then the
-  // rest of the day is played and the advance runs again.
+  ASSERT_GE(GamesOn(p.store(), league, "Thursday"), 2);
   p.store().Exec("UPDATE " + league.table +
                  " SET HomeScore = 70, AwayScore = 60 WHERE GameNo = (SELECT min(GameNo) "
                  "FROM " +
                  league.table + " WHERE Week = 16 AND GameDay = 'Thursday')");
   AdvanceConfTourney(p.session(), league.conference, 16, "Thursday");
-  p.PlayDay(league.table, 16, "Thursday");
-  AdvanceConfTourney(p.session(), league.conference, 16, "Thursday");
+  for (const char* day : {"Thursday", "Friday", "Saturday", "Sunday"}) {
+    p.PlayConferenceDay(day);
+    const std::string once = testing::DumpStore(p.store());
+    for (const LeagueRow& other : p.Leagues()) {
+      AdvanceConfTourney(p.session(), other.conference, 16, day);
+    }
+    EXPECT_EQ(testing::DumpStore(p.store()), once) << day;
+  }
   EXPECT_EQ(GamesOn(p.store(), league, "Friday"), 4);
   EXPECT_EQ(p.store()
                 .ScalarInt("SELECT count(*) FROM (SELECT Seed FROM ConfTourney WHERE "
@@ -227,6 +214,10 @@ TEST(ConfTourney, ADayPlayedInTwoPartsEndsAsOnePlayedWhole) {
                            league.conference)
                 .value(),
             6);
+  // Setting up again leaves every bracket as it stands.
+  const std::string done = testing::DumpStore(p.store());
+  p.SetupConferenceTourneys();
+  EXPECT_EQ(testing::DumpStore(p.store()), done);
 }
 
 }  // namespace

@@ -74,10 +74,7 @@ class CriTest : public ::testing::Test {
     if (r.Next()) row = {r.Int(0), r.Double(1), r.Double(2), r.Double(3), r.Int(4)};
     return row;
   }
-  std::string Background(int nth = 0) {
-    return *store().ScalarText("SELECT SchoolName FROM ScrubTeam ORDER BY rowid LIMIT 1 OFFSET ?",
-                               nth);
-  }
+  std::string Background(int nth = 0) { return d_.Background(nth); }
 
   DynastyFixture d_;
   std::string a_, b_, c_, mvcTable_;

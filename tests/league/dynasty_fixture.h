@@ -42,6 +42,13 @@ class DynastyFixture : public BlankProgram {
   // Non-conference games for the user's school, so that Start Season's
   // first condition holds.
   void AddNonConferenceGames(int games);
+  // The whole number `sql` reads, or -1 when it reads nothing.
+  int64_t Count(const std::string& sql) { return store().ScalarInt(sql).value_or(-1); }
+  // The background school at `nth` in the store's order.
+  std::string Background(int nth = 0) {
+    return *store().ScalarText("SELECT SchoolName FROM ScrubTeam ORDER BY rowid LIMIT 1 OFFSET ?",
+                               nth);
+  }
 };
 
 // Every row of every table, in a text that two stores share exactly when

@@ -61,7 +61,9 @@ TEST_F(InvitationTest, TheListOfTasksGoesToTheInbox) {
   EXPECT_TRUE(league_.ui().Questions().empty());  // no tournament, no question
 }
 
-TEST_F(InvitationTest, AcceptingChangesNothing) {
+// Accepting changes nothing; declining swaps the user with a school of
+// another conference in every game of the week.
+TEST_F(InvitationTest, AcceptingChangesNothingDecliningSwapsTheUserWithAnotherConference) {
   Invite();
   FinalOffseasonTasks(league_.session());
   EXPECT_EQ(league_.ui().Questions().back(),
@@ -69,12 +71,9 @@ TEST_F(InvitationTest, AcceptingChangesNothing) {
             "accept?");
   EXPECT_EQ(Sides(1), "St. John's/Big East v Drake/MVC");
   EXPECT_EQ(Sides(3), "Kansas/Big 12 v Binghamton/America East");
-}
 
-TEST_F(InvitationTest, DecliningSwapsTheUserWithASchoolOfAnotherConference) {
-  Invite();
   league_.ui().QueueAnswer(false);
-  FinalOffseasonTasks(league_.session());
+  AnswerTournamentInvitation(league_.session());
   EXPECT_EQ(Sides(1), "Kansas/Big 12 v Drake/MVC");
   EXPECT_EQ(Sides(2), "Syracuse/Big East v Navy/Patriot");
   EXPECT_EQ(Sides(3), "St. John's/Big East v Binghamton/America East");

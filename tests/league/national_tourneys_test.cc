@@ -32,7 +32,7 @@ struct Selected : PostseasonFixture {
   Selected() { RunConferenceTourneys(); }
 };
 
-TEST(NctSelection, TheBubbleComesFromTheAtLargeOrderBeforeTheAutomaticBids) {
+TEST(NctSelection, TheBubbleComesFromTheAtLargeOrderAndTheSitesFromTheRegions) {
   Selected p;
   SetupNationalTourneys(p.session());
   Store& s = p.store();
@@ -58,38 +58,9 @@ TEST(NctSelection, TheBubbleComesFromTheAtLargeOrderBeforeTheAutomaticBids) {
   Rows a = s.Query("SELECT LastIn1, LastIn4, FirstOut1 FROM ACTHistory");
   ASSERT_TRUE(a.Next());
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(field.count(a.Text(i)));
-}
 
-TEST(NctSelection, AChampionAtTheBottomOfThePollIsInAndATopTeamWithAPoorIndexIsOut) {
-  Selected p;
-  Store& s = p.store();
-  const std::string lastChampion =
-      s.ScalarText(
-           "SELECT Ranking.SchoolName FROM Ranking, ScrubTeam WHERE Winner = 1 AND "
-           "Ranking.SchoolName = ScrubTeam.SchoolName ORDER BY TeamRanking DESC")
-          .value();
-  s.Exec("UPDATE Ranking SET TeamRanking = 999, TeamPoints = 1 WHERE SchoolName = ?", lastChampion);
-  s.Exec("UPDATE CRIRank SET CRIValue = 0 WHERE SchoolName = ?", lastChampion);
-  // The first at-large school of the poll, rated as the weakest of the nation.
-  const std::string topLoser =
-      s.ScalarText(
-           "SELECT SchoolName FROM Ranking WHERE SchoolName NOT IN (SELECT SchoolName "
-           "FROM Team WHERE Winner = 1 UNION SELECT SchoolName FROM ScrubTeam WHERE "
-           "Winner = 1) ORDER BY TeamRanking")
-          .value();
-  s.Exec("UPDATE CRIRank SET CRIValue = -50 WHERE SchoolName = ?", topLoser);
-  SetupNationalTourneys(p.session());
-  const std::set<std::string> field = NctField(s);
-  EXPECT_TRUE(field.count(lastChampion));
-  EXPECT_EQ(s.ScalarInt("SELECT Seed FROM NCTTourney WHERE SchoolName = ?", lastChampion).value(),
-            16);
-  EXPECT_FALSE(field.count(topLoser));
-}
-
-TEST(NctSelection, SitesAreDistinctCitiesOfTheirRegionsAndEachHalfPlaysAtItsOwn) {
-  Selected p;
-  SetupNationalTourneys(p.session());
-  Store& s = p.store();
+  // The sites are distinct cities of their regions, and each half of a
+  // region plays at its own.
   EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Cities WHERE Second > 0 OR Regional > 0").value(),
             12);
   EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM Cities WHERE Final = 1 AND PotFinal = 1 AND "
@@ -119,6 +90,32 @@ TEST(NctSelection, SitesAreDistinctCitiesOfTheirRegionsAndEachHalfPlaysAtItsOwn)
                         " WHERE Week = 17 AND GameDay = 'Thursday' AND HomeTeam LIKE '1. %'")
                 .value(),
             4);
+}
+
+TEST(NctSelection, AChampionAtTheBottomOfThePollIsInAndATopTeamWithAPoorIndexIsOut) {
+  Selected p;
+  Store& s = p.store();
+  const std::string lastChampion =
+      s.ScalarText(
+           "SELECT Ranking.SchoolName FROM Ranking, ScrubTeam WHERE Winner = 1 AND "
+           "Ranking.SchoolName = ScrubTeam.SchoolName ORDER BY TeamRanking DESC")
+          .value();
+  s.Exec("UPDATE Ranking SET TeamRanking = 999, TeamPoints = 1 WHERE SchoolName = ?", lastChampion);
+  s.Exec("UPDATE CRIRank SET CRIValue = 0 WHERE SchoolName = ?", lastChampion);
+  // The first at-large school of the poll, rated as the weakest of the nation.
+  const std::string topLoser =
+      s.ScalarText(
+           "SELECT SchoolName FROM Ranking WHERE SchoolName NOT IN (SELECT SchoolName "
+           "FROM Team WHERE Winner = 1 UNION SELECT SchoolName FROM ScrubTeam WHERE "
+           "Winner = 1) ORDER BY TeamRanking")
+          .value();
+  s.Exec("UPDATE CRIRank SET CRIValue = -50 WHERE SchoolName = ?", topLoser);
+  SetupNationalTourneys(p.session());
+  const std::set<std::string> field = NctField(s);
+  EXPECT_TRUE(field.count(lastChampion));
+  EXPECT_EQ(s.ScalarInt("SELECT Seed FROM NCTTourney WHERE SchoolName = ?", lastChampion).value(),
+            16);
+  EXPECT_FALSE(field.count(topLoser));
 }
 
 TEST(NctSelection, TheUserHearsHisSeedRegionAndSite) {
@@ -174,37 +171,32 @@ TEST(NctSelection, APollTooShortForTheFieldIsRefusedWithNothingWritten) {
   EXPECT_EQ(testing::DumpStore(s), before);
 }
 
-TEST(NationalDays, EveryDayRecordedAgainChangesNothing) {
+// Every day recorded again changes nothing; the final four is marked when it
+// is set, and the champion closes the year.
+TEST(NationalDays, EveryDayRecordedAgainChangesNothingAndTheChampionClosesTheYear) {
   Selected p;
+  Store& s = p.store();
   SetupNationalTourneys(p.session());
-  const std::string selected = testing::DumpStore(p.store());
+  const std::string selected = testing::DumpStore(s);
   SetupNationalTourneys(p.session());
-  EXPECT_EQ(testing::DumpStore(p.store()), selected);
+  EXPECT_EQ(testing::DumpStore(s), selected);
+  std::set<std::string> finalFour;
   for (const testing::PostseasonDay& day : testing::NationalDays()) {
     p.PlayNationalDay(day);
-    const std::string once = testing::DumpStore(p.store());
+    const std::string once = testing::DumpStore(s);
     RecordPostseasonDay(p.session(), day.week, day.day);
-    EXPECT_EQ(testing::DumpStore(p.store()), once) << day.day << " of week " << day.week;
+    EXPECT_EQ(testing::DumpStore(s), once) << day.day << " of week " << day.week;
+    if (day.week != 18 || day.day != "Sunday") continue;
+    finalFour = ColumnSet(s,
+                          "SELECT SchoolName FROM Team WHERE NCTFinalFour = 1 UNION SELECT "
+                          "SchoolName FROM ScrubTeam WHERE NCTFinalFour = 1");
+    EXPECT_EQ(finalFour.size(), 4u);
+    EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM " + p.UserTable() +
+                          " WHERE Week = 19 AND GameDay = 'Saturday' AND GameType = 'FinalFour'")
+                  .value(),
+              2);
+    EXPECT_FALSE(NctChampion(s));
   }
-  EXPECT_TRUE(NctChampion(p.store()));
-}
-
-TEST(NationalDays, TheFinalFourIsMarkedWhenItIsSetAndTheChampionClosesTheYear) {
-  Selected p;
-  p.RunNationalTourneys({18, "Sunday"});
-  Store& s = p.store();
-  const std::set<std::string> finalFour =
-      ColumnSet(s,
-                "SELECT SchoolName FROM Team WHERE NCTFinalFour = 1 UNION SELECT SchoolName FROM "
-                "ScrubTeam WHERE NCTFinalFour = 1");
-  EXPECT_EQ(finalFour.size(), 4u);
-  EXPECT_EQ(s.ScalarInt("SELECT count(*) FROM " + p.UserTable() +
-                        " WHERE Week = 19 AND GameDay = 'Saturday' AND GameType = 'FinalFour'")
-                .value(),
-            2);
-  EXPECT_FALSE(NctChampion(s));
-  p.PlayNationalDay({19, "Saturday"});
-  p.PlayNationalDay({20, "Monday"});
   Rows h = s.Query("SELECT FinalFour1, FinalFour2, FinalFour3, FinalFour4, Champ FROM NCTHistory");
   ASSERT_TRUE(h.Next());
   std::set<std::string> recorded;

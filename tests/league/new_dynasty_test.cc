@@ -18,11 +18,7 @@ namespace {
 using testing::DynastyFixture;
 using testing::StandardRequest;
 
-int64_t Count(Store& store, const std::string& sql) {
-  return store.ScalarInt(sql).value_or(-1);
-}
-
-TEST(NewDynasty, NineConferencesWithAllTheirSchools) {
+TEST(NewDynasty, BuildsNineConferencesRostersStaffBackgroundAndTheUsersRows) {
   DynastyFixture d;
   Store& s = d.store();
   std::vector<std::pair<int, std::string>> leagues;
@@ -34,35 +30,31 @@ TEST(NewDynasty, NineConferencesWithAllTheirSchools) {
   EXPECT_EQ(leagues[6].second, "MVC");
   EXPECT_EQ(leagues[7].second, "WAC");
   EXPECT_EQ(leagues[8].second, "Atlantic 10");
-  EXPECT_EQ(Count(s, "SELECT count(DISTINCT Conference) FROM Team"), 9);
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM Team"),
-            Count(s, "SELECT count(*) FROM TeamSetup") +
-                Count(s,
-                      "SELECT count(*) FROM LowLeagueSetup WHERE Conference IN "
-                      "('MVC', 'WAC', 'Atlantic 10')"));
+  EXPECT_EQ(d.Count("SELECT count(DISTINCT Conference) FROM Team"), 9);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Team"),
+            d.Count("SELECT count(*) FROM TeamSetup") +
+                d.Count("SELECT count(*) FROM LowLeagueSetup WHERE Conference IN "
+                        "('MVC', 'WAC', 'Atlantic 10')"));
   // The seed's prestige is the starting prestige, and one row each in the
   // standings and the rankings.
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM Team JOIN TeamSetup USING (SchoolName) "
-                  "WHERE Team.InitialPrestige <> TeamSetup.Prestige"),
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Team JOIN TeamSetup USING (SchoolName) "
+                    "WHERE Team.InitialPrestige <> TeamSetup.Prestige"),
             0);
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM TeamStats"), Count(s, "SELECT count(*) FROM Team"));
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM Ranking"),
-            Count(s, "SELECT count(*) FROM Team") + Count(s, "SELECT count(*) FROM ScrubTeam"));
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM Records"), Count(s, "SELECT count(*) FROM Team") + 10);
-}
+  EXPECT_EQ(d.Count("SELECT count(*) FROM TeamStats"), d.Count("SELECT count(*) FROM Team"));
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Ranking"),
+            d.Count("SELECT count(*) FROM Team") + d.Count("SELECT count(*) FROM ScrubTeam"));
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Records"), d.Count("SELECT count(*) FROM Team") + 10);
 
-TEST(NewDynasty, EveryTeamHasThirteenPlayersAndAFullStaff) {
-  DynastyFixture d;
-  for (Rows rows = d.store().Query(
-           "SELECT SchoolName, "
-           "(SELECT count(*) FROM Player WHERE Player.Team = SchoolName), "
-           "(SELECT count(*) FROM Coach WHERE Coach.Team = SchoolName), "
-           "(SELECT count(*) FROM Scout WHERE Scout.Team = SchoolName), "
-           "(SELECT count(*) FROM Trainer WHERE Trainer.Team = SchoolName), "
-           "(SELECT count(*) FROM Coach WHERE Coach.Team = 'Looking at ' || SchoolName), "
-           "(SELECT count(*) FROM Player WHERE Player.Team = SchoolName AND "
-           " PlayerYear = 'Senior' AND NBAFlag = 1) FROM Team");
+  // Every team has thirteen players and a full staff.
+  for (Rows rows =
+           s.Query("SELECT SchoolName, "
+                   "(SELECT count(*) FROM Player WHERE Player.Team = SchoolName), "
+                   "(SELECT count(*) FROM Coach WHERE Coach.Team = SchoolName), "
+                   "(SELECT count(*) FROM Scout WHERE Scout.Team = SchoolName), "
+                   "(SELECT count(*) FROM Trainer WHERE Trainer.Team = SchoolName), "
+                   "(SELECT count(*) FROM Coach WHERE Coach.Team = 'Looking at ' || SchoolName), "
+                   "(SELECT count(*) FROM Player WHERE Player.Team = SchoolName AND "
+                   " PlayerYear = 'Senior' AND NBAFlag = 1) FROM Team");
        rows.Next();) {
     SCOPED_TRACE(rows.Text(0));
     EXPECT_EQ(rows.Int(1), 13);
@@ -72,87 +64,69 @@ TEST(NewDynasty, EveryTeamHasThirteenPlayersAndAFullStaff) {
     EXPECT_EQ(rows.Int(5), 2);
     EXPECT_GE(rows.Int(6), 3);
   }
-  EXPECT_EQ(Count(d.store(), "SELECT count(*) FROM PlayerStats"),
-            Count(d.store(), "SELECT count(*) FROM Player"));
-  EXPECT_EQ(Count(d.store(), "SELECT NextId FROM Config"),
-            Count(d.store(), "SELECT max(Id) FROM ScrubPlayer") + 1);
-}
+  EXPECT_EQ(d.Count("SELECT count(*) FROM PlayerStats"), d.Count("SELECT count(*) FROM Player"));
+  EXPECT_EQ(d.Count("SELECT NextId FROM Config"), d.Count("SELECT max(Id) FROM ScrubPlayer") + 1);
 
-TEST(NewDynasty, TheBackgroundFieldComesFromTheOtherLowConferences) {
-  DynastyFixture d;
-  Store& s = d.store();
-  EXPECT_LE(Count(s, "SELECT count(*) FROM ScrubTeam"), 110);
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM ScrubTeam"), 110);  // the seeds have schools enough
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM ScrubTeam WHERE Conference IN (SELECT Conference FROM "
-                  "League)"),
+  // The background field comes from the other low conferences.
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam"), 110);  // the seeds have schools enough
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam WHERE Conference IN (SELECT Conference FROM "
+                    "League)"),
             0);
   // Each other low conference has exactly one qualifier.
-  const int64_t others = Count(s, "SELECT count(*) FROM LeagueSetup WHERE Id > 6") - 3;
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM ScrubTeam WHERE Winner = 1"), others);
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM (SELECT Conference FROM ScrubTeam WHERE Winner = 1 "
-                  "GROUP BY Conference HAVING count(*) = 1)"),
+  const int64_t others = d.Count("SELECT count(*) FROM LeagueSetup WHERE Id > 6") - 3;
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam WHERE Winner = 1"), others);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM (SELECT Conference FROM ScrubTeam WHERE Winner = 1 "
+                    "GROUP BY Conference HAVING count(*) = 1)"),
             others);
   // Qualifiers have coaches of 45 to 79, the others of 50 to 99.
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM ScrubTeam WHERE Winner = 1 AND (OffCoach NOT BETWEEN "
-                  "45 AND 79 OR Trainer NOT BETWEEN 45 AND 74)"),
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam WHERE Winner = 1 AND (OffCoach NOT BETWEEN "
+                    "45 AND 79 OR Trainer NOT BETWEEN 45 AND 74)"),
             0);
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM ScrubTeam WHERE Winner = 0 AND (OffCoach NOT BETWEEN "
-                  "50 AND 99 OR Trainer NOT BETWEEN 60 AND 89)"),
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam WHERE Winner = 0 AND (OffCoach NOT BETWEEN "
+                    "50 AND 99 OR Trainer NOT BETWEEN 60 AND 89)"),
             0);
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM ScrubTeam WHERE (SELECT count(*) FROM ScrubPlayer "
-                  "WHERE ScrubPlayer.Team = ScrubTeam.SchoolName) <> 13"),
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubTeam WHERE (SELECT count(*) FROM ScrubPlayer "
+                    "WHERE ScrubPlayer.Team = ScrubTeam.SchoolName) <> 13"),
             0);
-  EXPECT_EQ(Count(s,
-                  "SELECT count(*) FROM ScrubPlayer WHERE Team NOT IN (SELECT SchoolName "
-                  "FROM ScrubTeam)"),
+  EXPECT_EQ(d.Count("SELECT count(*) FROM ScrubPlayer WHERE Team NOT IN (SELECT SchoolName "
+                    "FROM ScrubTeam)"),
             0);
-}
 
-TEST(NewDynasty, TheUsersRowsKeepTheirApostrophes) {
-  DynastyFixture d;
-  Store& s = d.store();
+  // The user's rows keep their apostrophes.
   Rows coach = s.Query("SELECT Name, Team, Expectations FROM HeadCoach");
   ASSERT_TRUE(coach.Next());
   EXPECT_EQ(coach.Text(0), "D'Angelo O'Neil");
   EXPECT_EQ(coach.Text(1), "St. John's");
   EXPECT_EQ(coach.Int(2), 2);  // St. John's starts at 66: "High"
   EXPECT_EQ(s.ScalarText("SELECT SchoolName FROM Team WHERE Owner = 'Human'"), "St. John's");
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM Team WHERE Owner = 'Computer'"),
-            Count(s, "SELECT count(*) FROM Team") - 1);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Team WHERE Owner = 'Computer'"),
+            d.Count("SELECT count(*) FROM Team") - 1);
   EXPECT_EQ(s.ScalarText("SELECT Team FROM CoachHistory WHERE Season = 1 AND Year = 2001"),
             "St. John's");
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM Records WHERE Type = 'St. John''s'"), 1);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM Records WHERE Type = 'St. John''s'"), 1);
   const Config c = LoadConfig(s);
   EXPECT_EQ(c.Stage, "Post Training");
   EXPECT_EQ(c.CurrWeek, 1);
   EXPECT_EQ(c.CurrDay, "Thursday");
   EXPECT_EQ(c.CurrYear, 2001);
-  EXPECT_EQ(c.MaxGameNo, Count(s, "SELECT coalesce(max(GameNo), 0) FROM NonConfSchedule"));
+  EXPECT_EQ(c.MaxGameNo, d.Count("SELECT coalesce(max(GameNo), 0) FROM NonConfSchedule"));
 }
 
-TEST(NewDynasty, TellsItsStepsInOrderAndLeavesTheOffseasonLetter) {
-  testing::BlankProgram p;
-  ASSERT_TRUE(RunNewDynasty(p.session(), StandardRequest()));
+// File > New tells its steps in order and leaves the offseason letter; a
+// fixed seed replays the whole store, another seed does not.
+TEST(NewDynasty, TellsItsStepsAndAFixedSeedReplaysTheWholeStore) {
+  testing::BlankProgram a(1);
+  testing::BlankProgram b(1);
+  ASSERT_TRUE(RunNewDynasty(a.session(), StandardRequest()));
   const std::vector<std::string> expected = {
       "Clearing Old Season",       "Setting up Teams",       "Creating Scouts",
       "Creating Coaches",          "Creating Trainers",      "Creating Players",
       "Creating Background Teams", "Finalizing Season Setup"};
-  EXPECT_EQ(p.ui().Captions(), expected);
-  ASSERT_EQ(p.session().inbox.Messages.size(), 1u);
-  EXPECT_EQ(p.session().inbox.Messages[0].Sender, "Assistant");
-  EXPECT_EQ(p.session().inbox.Messages[0].Subject, "Final Offseason Tasks");
-  EXPECT_EQ(p.session().config.Stage, "Post Training");
-}
-
-TEST(NewDynasty, AFixedSeedReplaysTheWholeStore) {
-  testing::BlankProgram a(1);
-  testing::BlankProgram b(1);
-  ASSERT_TRUE(RunNewDynasty(a.session(), StandardRequest()));
+  EXPECT_EQ(a.ui().Captions(), expected);
+  ASSERT_EQ(a.session().inbox.Messages.size(), 1u);
+  EXPECT_EQ(a.session().inbox.Messages[0].Sender, "Assistant");
+  EXPECT_EQ(a.session().inbox.Messages[0].Subject, "Final Offseason Tasks");
+  EXPECT_EQ(a.session().config.Stage, "Post Training");
   ASSERT_TRUE(RunNewDynasty(b.session(), StandardRequest()));
   EXPECT_TRUE(testing::DumpStore(a.store()) == testing::DumpStore(b.store()));
   testing::BlankProgram c(2);
@@ -160,7 +134,7 @@ TEST(NewDynasty, AFixedSeedReplaysTheWholeStore) {
   EXPECT_FALSE(testing::DumpStore(a.store()) == testing::DumpStore(c.store()));
 }
 
-TEST(NewDynasty, ARefusalLeavesTheOldDynastyAsItWas) {
+TEST(NewDynasty, ARefusalOrANoLeavesTheOldDynastyAsItWas) {
   DynastyFixture d;
   const std::string before = testing::DumpStore(d.store());
   struct Case {
@@ -192,12 +166,7 @@ TEST(NewDynasty, ARefusalLeavesTheOldDynastyAsItWas) {
     EXPECT_TRUE(testing::DumpStore(d.store()) == before);
     EXPECT_EQ(d.session().config.Stage, "Post Training");
   }
-}
-
-TEST(NewDynasty, NoToTheFirstQuestionChangesNothing) {
-  DynastyFixture d;
-  const std::string before = testing::DumpStore(d.store());
-  d.ui().QueueAnswer(false);
+  d.ui().QueueAnswer(false);  // No to the first question
   EXPECT_FALSE(RunNewDynasty(d.session(), StandardRequest()));
   EXPECT_TRUE(testing::DumpStore(d.store()) == before);
 }
@@ -252,8 +221,8 @@ TEST(NewDynasty, AProcessKilledHalfWayLeavesAStoreThatOpensOnTheOldDynasty) {
 TEST(ClearDynasty, EmptiesTheDynastyAndKeepsTheSeeds) {
   DynastyFixture d;
   Store& s = d.store();
-  const int64_t schools = Count(s, "SELECT count(*) FROM TeamSetup");
-  const int64_t names = Count(s, "SELECT count(*) FROM LName");
+  const int64_t schools = d.Count("SELECT count(*) FROM TeamSetup");
+  const int64_t names = d.Count("SELECT count(*) FROM LName");
   s.Exec("UPDATE Cities SET Final = 1");
   ClearDynasty(s);
   for (const char* table :
@@ -262,9 +231,9 @@ TEST(ClearDynasty, EmptiesTheDynastyAndKeepsTheSeeds) {
         "League1Schedule", "PreSeasonTourney"}) {
     EXPECT_EQ(s.RowCount(table), 0) << table;
   }
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM TeamSetup"), schools);
-  EXPECT_EQ(Count(s, "SELECT count(*) FROM LName"), names);
-  EXPECT_EQ(Count(s, "SELECT sum(Final) FROM Cities"), 0);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM TeamSetup"), schools);
+  EXPECT_EQ(d.Count("SELECT count(*) FROM LName"), names);
+  EXPECT_EQ(d.Count("SELECT sum(Final) FROM Cities"), 0);
   const Config c = LoadConfig(s);
   EXPECT_EQ(c.NextId, 1);
   EXPECT_EQ(c.NumRecruits, 0);

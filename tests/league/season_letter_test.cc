@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <tuple>
+
 #include "people/league_fixture.h"
 
 namespace courtmere {
@@ -14,29 +17,25 @@ constexpr const char* kStart = " As of right now, you have ";
 TEST(ScholarshipSentence, HasAFormForEachCase) {
   EXPECT_EQ(ScholarshipSentence(0, 0), "");
   EXPECT_EQ(ScholarshipSentence(0, -2), "");  // more than 13 on the roster, no seniors
-  EXPECT_EQ(ScholarshipSentence(3, 0),
-            std::string(kStart) +
-                "3 scholarships to use for your recruits because of 3 graduating seniors.");
-  EXPECT_EQ(ScholarshipSentence(2, 2),
-            std::string(kStart) +
-                "4 scholarships to use for your recruits because of 2 graduating seniors and 2 "
-                "open roster spots.");
-  EXPECT_EQ(ScholarshipSentence(2, 1),
-            std::string(kStart) +
-                "3 scholarships to use for your recruits because of 2 graduating seniors and 1 "
-                "open roster spot.");
-  EXPECT_EQ(ScholarshipSentence(0, 1),
-            std::string(kStart) +
-                "1 scholarships to use for your recruits because of 0 graduating seniors and 1 "
-                "open roster spot.");
   // At most five: the open places give way to the seniors.
-  EXPECT_EQ(ScholarshipSentence(4, 3),
-            std::string(kStart) +
-                "5 scholarships to use for your recruits because of 4 graduating seniors and 1 "
-                "open roster spot.");
-  EXPECT_EQ(ScholarshipSentence(6, 1),
-            std::string(kStart) +
-                "5 scholarships to use for your recruits because of 6 graduating seniors.");
+  const std::tuple<int, int, const char*> cases[] = {
+      {3, 0, "3 scholarships to use for your recruits because of 3 graduating seniors."},
+      {2, 2,
+       "4 scholarships to use for your recruits because of 2 graduating seniors and 2 open "
+       "roster spots."},
+      {2, 1,
+       "3 scholarships to use for your recruits because of 2 graduating seniors and 1 open "
+       "roster spot."},
+      {0, 1,
+       "1 scholarships to use for your recruits because of 0 graduating seniors and 1 open "
+       "roster spot."},
+      {4, 3,
+       "5 scholarships to use for your recruits because of 4 graduating seniors and 1 open "
+       "roster spot."},
+      {6, 1, "5 scholarships to use for your recruits because of 6 graduating seniors."}};
+  for (const auto& [seniors, open, sentence] : cases) {
+    EXPECT_EQ(ScholarshipSentence(seniors, open), kStart + std::string(sentence));
+  }
 }
 
 class SeasonLetterTest : public ::testing::Test {

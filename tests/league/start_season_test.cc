@@ -16,10 +16,6 @@ namespace {
 using testing::DynastyFixture;
 using testing::kUserSchool;
 
-int64_t Count(Store& store, const std::string& sql) {
-  return store.ScalarInt(sql).value_or(-1);
-}
-
 // A dynasty whose user has exactly `games` non-conference games.
 struct ReadyDynasty : DynastyFixture {
   explicit ReadyDynasty(int games = 4) {
@@ -29,37 +25,37 @@ struct ReadyDynasty : DynastyFixture {
   }
 };
 
-TEST(StartSeason, RefusesWithoutFourNonConferenceGames) {
-  ReadyDynasty d(3);
-  const std::string before = testing::DumpStore(d.store());
-  EXPECT_EQ(StartSeason(d.session()), SeasonStart::kRefused);
+// Each refusal and a No to the warning leave the store as it was.
+TEST(StartSeason, ItsRefusalsAndANoToTheWarningChangeNothing) {
+  ReadyDynasty d;
+  Store& s = d.store();
+  const std::string before = testing::DumpStore(s);
+  auto expectUnchanged = [&](SeasonStart expected) {
+    const std::string now = testing::DumpStore(s);
+    EXPECT_EQ(StartSeason(d.session()), expected);
+    EXPECT_TRUE(testing::DumpStore(s) == now);
+  };
+  const int64_t last =
+      *s.ScalarInt("SELECT max(GameNo) FROM NonConfSchedule WHERE HomeTeam = ?", kUserSchool);
+  s.Exec("UPDATE NonConfSchedule SET HomeTeam = 'Nobody' WHERE GameNo = ?", last);
+  expectUnchanged(SeasonStart::kRefused);
   EXPECT_EQ(d.ui().Messages().back(),
             "Please setup your full four game non-conference schedule before starting the season");
   EXPECT_TRUE(d.ui().Questions().empty());
-  EXPECT_TRUE(testing::DumpStore(d.store()) == before);
-}
+  s.Exec("UPDATE NonConfSchedule SET HomeTeam = ? WHERE GameNo = ?", kUserSchool, last);
+  ASSERT_TRUE(testing::DumpStore(s) == before);
 
-TEST(StartSeason, RefusesWithoutThreeCoaches) {
-  ReadyDynasty d;
-  d.store().Exec(
-      "DELETE FROM Coach WHERE Id = (SELECT min(Id) FROM Coach WHERE Team = 'St. John''s')");
-  const std::string before = testing::DumpStore(d.store());
-  EXPECT_EQ(StartSeason(d.session()), SeasonStart::kRefused);
-  EXPECT_EQ(d.ui().Messages().back(),
-            "Please setup your full three member coaching staff before starting the season");
-  EXPECT_TRUE(testing::DumpStore(d.store()) == before);
-}
-
-TEST(StartSeason, NoToTheWarningChangesNothing) {
-  ReadyDynasty d;
-  const std::string before = testing::DumpStore(d.store());
   d.ui().QueueAnswer(false);
-  EXPECT_EQ(StartSeason(d.session()), SeasonStart::kDeclined);
+  expectUnchanged(SeasonStart::kDeclined);
   EXPECT_EQ(d.ui().Questions().back(),
             "Once you start the season you will no longer have the ability to pick your "
             "non-conference schedule, change your staff, assign redshirts, cut players and switch "
             "player positions. Do you wish to proceed?");
-  EXPECT_TRUE(testing::DumpStore(d.store()) == before);
+
+  s.Exec("DELETE FROM Coach WHERE Id = (SELECT min(Id) FROM Coach WHERE Team = 'St. John''s')");
+  expectUnchanged(SeasonStart::kRefused);
+  EXPECT_EQ(d.ui().Messages().back(),
+            "Please setup your full three member coaching staff before starting the season");
 }
 
 class StartedSeason : public ::testing::Test {
@@ -75,7 +71,7 @@ class StartedSeason : public ::testing::Test {
   ReadyDynasty d_;
 };
 
-TEST_F(StartedSeason, StandsOnThursdayOfWeekOneAfterItsStepsInOrder) {
+TEST_F(StartedSeason, StandsOnThursdayOfWeekOneWithItsPoolsRostersPollAndLetter) {
   const Config c = LoadConfig(store());
   EXPECT_EQ(c.Stage, "Season");
   EXPECT_EQ(c.CurrWeek, 1);
@@ -85,74 +81,60 @@ TEST_F(StartedSeason, StandsOnThursdayOfWeekOneAfterItsStepsInOrder) {
       "Clearing Old Season", "Creating Recruits", "Ranking Recruits",     "Creating Schedule",
       "Ranking Teams",       "Loading Players",   "Assessing CPU rosters"};
   EXPECT_EQ(d_.ui().Captions(), steps);
-  EXPECT_EQ(Count(store(), "SELECT Health = 'Good' AND TimeInjured = 0 FROM Player WHERE Id = 1"),
-            1);
+  EXPECT_EQ(d_.Count("SELECT Health = 'Good' AND TimeInjured = 0 FROM Player WHERE Id = 1"), 1);
   for (const char* folder : {"SaveGame", "log", "reports"}) {
     EXPECT_TRUE(std::filesystem::is_directory(d_.folder() / folder)) << folder;
   }
   EXPECT_EQ(store().ScalarText("SELECT Team FROM TeamRecruit"), kUserSchool);
-}
 
-TEST_F(StartedSeason, DrawsAndRanksTheRegionalPools) {
-  EXPECT_GT(Count(store(), "SELECT count(*) FROM Recruit"), 200);
-  EXPECT_EQ(Count(store(), "SELECT NumRecruits FROM Config"),
-            Count(store(), "SELECT count(*) FROM Recruit"));
-  EXPECT_EQ(Count(store(),
-                  "SELECT count(*) FROM Recruit JOIN Player USING (Id) WHERE Player.Team <> "
-                  "Recruit.Region OR PlayerYear <> 'Recruit'"),
+  // It draws and ranks the regional pools of recruits.
+  EXPECT_GT(d_.Count("SELECT count(*) FROM Recruit"), 200);
+  EXPECT_EQ(d_.Count("SELECT NumRecruits FROM Config"), d_.Count("SELECT count(*) FROM Recruit"));
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Recruit JOIN Player USING (Id) WHERE Player.Team <> "
+                     "Recruit.Region OR PlayerYear <> 'Recruit'"),
             0);
-  EXPECT_EQ(Count(store(), "SELECT count(DISTINCT Region) FROM Recruit"), 4);
-  EXPECT_EQ(Count(store(),
-                  "SELECT count(*) FROM Recruit WHERE Team1 = '' OR Team2 = '' OR Team3 = '' "
-                  "OR Team1 = Team2 OR Team2 = Team3 OR Team1 = Team3"),
+  EXPECT_EQ(d_.Count("SELECT count(DISTINCT Region) FROM Recruit"), 4);
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Recruit WHERE Team1 = '' OR Team2 = '' OR Team3 = '' "
+                     "OR Team1 = Team2 OR Team2 = Team3 OR Team1 = Team3"),
             0);
   for (int position = 1; position <= 5; ++position) {
-    EXPECT_EQ(Count(store(),
-                    "SELECT count(DISTINCT PosRank) FROM Recruit JOIN Player USING (Id) "
-                    "WHERE PosRank > 0 AND PlayerPosition = " +
-                        std::to_string(position)),
+    EXPECT_EQ(d_.Count("SELECT count(DISTINCT PosRank) FROM Recruit JOIN Player USING (Id) "
+                       "WHERE PosRank > 0 AND PlayerPosition = " +
+                       std::to_string(position)),
               15);
   }
-  EXPECT_EQ(Count(store(), "SELECT count(DISTINCT Top50Rank) FROM Recruit WHERE Top50Rank > 0"),
-            50);
+  EXPECT_EQ(d_.Count("SELECT count(DISTINCT Top50Rank) FROM Recruit WHERE Top50Rank > 0"), 50);
   // The top 50 follows RankPoints, and no one outside it has more points.
-  EXPECT_EQ(Count(store(),
-                  "SELECT count(*) FROM Recruit a JOIN Recruit b ON a.Top50Rank > 0 AND "
-                  "(b.Top50Rank = 0 OR b.Top50Rank > a.Top50Rank) AND "
-                  "b.RankPoints > a.RankPoints"),
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Recruit a JOIN Recruit b ON a.Top50Rank > 0 AND "
+                     "(b.Top50Rank = 0 OR b.Top50Rank > a.Top50Rank) AND "
+                     "b.RankPoints > a.RankPoints"),
             0);
-}
 
-TEST_F(StartedSeason, FillsShortRostersWithSeniorWalkOns) {
-  EXPECT_EQ(Count(store(),
-                  "SELECT count(*) FROM Team WHERE (SELECT count(*) FROM Player WHERE "
-                  "Player.Team = Team.SchoolName) < 13"),
+  // Short rosters are filled with senior walk-ons.
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Team WHERE (SELECT count(*) FROM Player WHERE "
+                     "Player.Team = Team.SchoolName) < 13"),
             0);
-  EXPECT_EQ(Count(store(),
-                  "SELECT count(*) FROM Player WHERE Team = 'Duke' AND Id > (SELECT "
-                  "max(Id) FROM Recruit) AND PlayerYear = 'Senior' AND NBAFlag = 1"),
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Player WHERE Team = 'Duke' AND Id > (SELECT "
+                     "max(Id) FROM Recruit) AND PlayerYear = 'Senior' AND NBAFlag = 1"),
             2);
-}
 
-TEST_F(StartedSeason, RanksEverySchoolInThePreseasonPoll) {
-  const int64_t schools = Count(store(), "SELECT count(*) FROM Team") +
-                          Count(store(), "SELECT count(*) FROM ScrubTeam");
-  EXPECT_EQ(Count(store(), "SELECT count(DISTINCT TeamRanking) FROM Ranking WHERE TeamRanking > 0"),
+  // Every school is ranked in the preseason poll.
+  const int64_t schools =
+      d_.Count("SELECT count(*) FROM Team") + d_.Count("SELECT count(*) FROM ScrubTeam");
+  EXPECT_EQ(d_.Count("SELECT count(DISTINCT TeamRanking) FROM Ranking WHERE TeamRanking > 0"),
             schools);
   // Before any game, by prestige, rating and the schedule strength of the
   // same step.
   EXPECT_EQ(
-      Count(store(),
-            "SELECT count(*) FROM Ranking JOIN Team USING (SchoolName) WHERE "
-            "abs(TeamPoints - (Prestige + TeamRating / 7.0 + ScheduleStrength / 7.0)) > 1e-9"),
+      d_.Count("SELECT count(*) FROM Ranking JOIN Team USING (SchoolName) WHERE "
+               "abs(TeamPoints - (Prestige + TeamRating / 7.0 + ScheduleStrength / 7.0)) > 1e-9"),
       0);
-}
 
-TEST_F(StartedSeason, SetsTheComputersRostersAndWritesTheLetter) {
-  EXPECT_EQ(Count(store(), "SELECT count(*) FROM Team WHERE PG1 = 0 AND Owner = 'Computer'"), 0);
-  EXPECT_EQ(Count(store(), "SELECT count(*) FROM ScrubTeam WHERE PG1 = 0"), 0);
-  EXPECT_EQ(Count(store(), "SELECT PG1 FROM Team WHERE Owner = 'Human'"), 0);
-  EXPECT_EQ(Count(store(), "SELECT count(*) FROM Messages"), 1);
+  // The computer's rosters are set and the letter written.
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Team WHERE PG1 = 0 AND Owner = 'Computer'"), 0);
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM ScrubTeam WHERE PG1 = 0"), 0);
+  EXPECT_EQ(d_.Count("SELECT PG1 FROM Team WHERE Owner = 'Human'"), 0);
+  EXPECT_EQ(d_.Count("SELECT count(*) FROM Messages"), 1);
   EXPECT_EQ(store().ScalarText("SELECT Type FROM Messages"), "Team");
   const Inbox& inbox = d_.session().inbox;
   ASSERT_EQ(inbox.Messages.size(), 1u);

@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace courtmere {
 namespace {
 
 TEST(NumericTest, CIntRoundsTiesToEven) {
-  EXPECT_EQ(CInt(0.5), 0);
-  EXPECT_EQ(CInt(1.5), 2);
-  EXPECT_EQ(CInt(2.5), 2);
-  EXPECT_EQ(CInt(3.5), 4);
-  EXPECT_EQ(CInt(-0.5), 0);
-  EXPECT_EQ(CInt(-1.5), -2);
-  EXPECT_EQ(CInt(2.5000001), 3);
-  EXPECT_EQ(CInt(70.49), 70);
+  const std::pair<double, int> cases[] = {{0.5, 0},  {1.5, 2},   {2.5, 2},       {3.5, 4},
+                                          {-0.5, 0}, {-1.5, -2}, {2.5000001, 3}, {70.49, 70}};
+  for (auto [x, want] : cases) EXPECT_EQ(CInt(x), want) << x;
 }
 
 TEST(NumericTest, CIntOfHalvesIsCIntOfTheHalf) {

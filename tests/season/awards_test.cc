@@ -136,15 +136,17 @@ TEST_F(AwardsTest, PlayerOfTheWeekIsTheFirstOfEqualsAndTheWeekStartsAfresh) {
   EXPECT_EQ(Winners("week").size(), 1u);
 }
 
-TEST_F(AwardsTest, AConferenceOfGreatGuardsNamesThreeGuards) {
+// The all-conference slots: a conference of great guards names three of
+// them; a position whose slots are taken is passed over.
+TEST_F(AwardsTest, AllConferenceSlotsGoToTheBestWhoseSlotIsFree) {
   const int t1 = TeamOf("MVC"), t2 = TeamOf("MVC", 1);
   Season(t1, 1, 1, 6000);
   Season(t2, 1, 2, 5850);
-  Season(t2, 2, 1, 5700);              // slots 1 and 2 taken: the third guard takes 3
-  Season(t1, 2, 3, 5550);              // 3 and 2 taken: the forward takes 4
-  Season(t1, 3, 4, 5400);              // 4 taken: 5
-  Season(t1, 4, 5, 5250);              // the team is full
-  Season(TeamOf("WAC"), 1, 5, 13500);  // another conference's man
+  Season(t2, 2, 1, 5700);                      // slots 1 and 2 taken: the third guard takes 3
+  Season(t1, 2, 3, 5550);                      // 3 and 2 taken: the forward takes 4
+  Season(t1, 3, 4, 5400);                      // 4 taken: 5
+  Season(t1, 4, 5, 5250);                      // the team is full
+  Season(TeamOf("Atlantic 10"), 1, 5, 13500);  // another conference's man
   PickConferenceTeam(d_.session(), "MVC", "All");
   EXPECT_EQ(Winners("MVC%"), (std::vector<Winner>{{"MVC", 1, Id(t1, 1)},
                                                   {"MVC", 2, Id(t2, 1)},
@@ -155,9 +157,7 @@ TEST_F(AwardsTest, AConferenceOfGreatGuardsNamesThreeGuards) {
   Rows r = store().Query("SELECT PPG FROM AwardWinners WHERE Type = 'MVCPOY'");
   ASSERT_TRUE(r.Next());
   EXPECT_DOUBLE_EQ(r.Double(0), 480);
-}
 
-TEST_F(AwardsTest, APositionWhoseSlotsAreTakenIsPassedOver) {
   const int t = TeamOf("WAC");
   Season(t, 1, 4, 7500);
   Season(t, 2, 5, 7350);

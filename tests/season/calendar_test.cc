@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 namespace courtmere {
@@ -40,34 +41,27 @@ TEST(Calendar, TheSeasonIsTheTableDayByDay) {
   EXPECT_EQ(WalkSeason(), expected);
 }
 
-TEST(Calendar, WeekFiveIsEnteredOnThursdayAndLeftFromItsSaturday) {
+// Week 5 is entered on Thursday, which stands for its Saturday; the season's
+// end goes nowhere.
+TEST(Calendar, WeekFiveIsEnteredOnThursdayAndTheSeasonsEndGoesNowhere) {
   EXPECT_EQ(NextDay(4, "Saturday"), (CalendarDay{5, "Thursday"}));
-  EXPECT_EQ(NextDay(5, "Saturday"), (CalendarDay{6, "Thursday"}));
-  // The unsettled Thursday stands for the Saturday.
   EXPECT_EQ(NextDay(5, "Thursday"), (CalendarDay{6, "Thursday"}));
-  EXPECT_TRUE(IsLastDayOfWeek(5, "Saturday"));
+  EXPECT_EQ(NextDay(21, "Monday"), (CalendarDay{21, "Monday"}));
 }
 
 TEST(Calendar, LastDaysOfTheWeeks) {
-  EXPECT_TRUE(IsLastDayOfWeek(1, "Sunday"));
-  EXPECT_FALSE(IsLastDayOfWeek(1, "Saturday"));
+  const std::vector<std::pair<CalendarDay, bool>> cases = {
+      {{1, "Sunday"}, true},     {{1, "Saturday"}, false},
+      {{5, "Saturday"}, true},   {{16, "Sunday"}, true},
+      {{16, "Saturday"}, false}, {{18, "Sunday"}, true},
+      {{18, "Saturday"}, false}, {{19, "Saturday"}, true},
+      {{20, "Monday"}, false}};  // week 20's Monday moves into week 21 without a week's end
+  for (const auto& [d, last] : cases)
+    EXPECT_EQ(IsLastDayOfWeek(d.week, d.day), last) << d.week << d.day;
   for (int week = 2; week <= 15; ++week) {
     EXPECT_TRUE(IsLastDayOfWeek(week, "Saturday")) << week;
     EXPECT_FALSE(IsLastDayOfWeek(week, "Thursday")) << week;
   }
-  for (int week : {16, 17, 18}) {
-    EXPECT_TRUE(IsLastDayOfWeek(week, "Sunday")) << week;
-    EXPECT_FALSE(IsLastDayOfWeek(week, "Saturday")) << week;
-  }
-  EXPECT_TRUE(IsLastDayOfWeek(19, "Saturday"));
-  // Week 20's Monday moves into week 21 without a week's end.
-  EXPECT_FALSE(IsLastDayOfWeek(20, "Monday"));
-  EXPECT_EQ(NextDay(20, "Monday"), (CalendarDay{21, "Monday"}));
-  EXPECT_EQ(NextDay(16, "Sunday"), (CalendarDay{17, "Tuesday"}));
-}
-
-TEST(Calendar, TheSeasonsEndGoesNowhere) {
-  EXPECT_EQ(NextDay(21, "Monday"), (CalendarDay{21, "Monday"}));
 }
 
 TEST(Calendar, PreviousDayRetracesTheWalkAndStopsAtTheFirstDay) {
@@ -79,14 +73,11 @@ TEST(Calendar, PreviousDayRetracesTheWalkAndStopsAtTheFirstDay) {
 }
 
 TEST(Calendar, TheInboxWeekIsTheWeekOfTheLastStep) {
-  EXPECT_EQ(WeekOfLastStep(1, "Thursday"), 1);
-  EXPECT_EQ(WeekOfLastStep(1, "Saturday"), 1);
-  EXPECT_EQ(WeekOfLastStep(2, "Thursday"), 1);
-  EXPECT_EQ(WeekOfLastStep(2, "Saturday"), 2);
-  EXPECT_EQ(WeekOfLastStep(5, "Thursday"), 4);
-  EXPECT_EQ(WeekOfLastStep(6, "Thursday"), 5);
-  EXPECT_EQ(WeekOfLastStep(17, "Tuesday"), 16);
-  EXPECT_EQ(WeekOfLastStep(21, "Monday"), 20);
+  const std::vector<std::pair<CalendarDay, int>> cases = {
+      {{1, "Thursday"}, 1}, {{1, "Saturday"}, 1}, {{2, "Thursday"}, 1},  {{2, "Saturday"}, 2},
+      {{5, "Thursday"}, 4}, {{6, "Thursday"}, 5}, {{17, "Tuesday"}, 16}, {{21, "Monday"}, 20}};
+  for (const auto& [d, week] : cases)
+    EXPECT_EQ(WeekOfLastStep(d.week, d.day), week) << d.week << d.day;
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ expect "There is no week 0 in a season."
 # With View Play-By-Play on, the user's next games keep their logs. Week 5
 # has no games and no poll, only the first rating index.
 run 0 --home "$work/a" options --play-by-play on
-expect "Your Settings have been updated!"
+expect_err "Your Settings have been updated!"
 expect_line "^ *View Play-By-Play +on$"
 expect_line "^ *Set Score Ticker Speed \(5=Normal\) +5$"
 run 0 --home "$work/a" sim --to-week 6

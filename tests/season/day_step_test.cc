@@ -118,32 +118,31 @@ TEST_F(DayStep, WeekFiveIsOneSaturdayWithoutGamesAndOnePressLeadsToWeekSix) {
   EXPECT_EQ(run().caption, "Courtmere (Contact Period)");
 }
 
-TEST_F(DayStep, TheYearTurnsAtTheEndOfWeekSix) {
+// The end of week 6 turns the year (not its Thursday) and runs the week's
+// events in their order.
+TEST_F(DayStep, TheEndOfWeekSixTurnsTheYearAndRunsItsEventsInOrder) {
   const int year = config().CurrYear;
   GoTo(6, "Thursday");
   ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
   EXPECT_EQ(config().CurrYear, year);
+  RecordingRecruiting recruiting;
+  run().recruiting = &recruiting;
+  const auto thursday = static_cast<std::ptrdiff_t>(ui().Captions().size());
   ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
   EXPECT_EQ(config().CurrWeek, 7);
   EXPECT_EQ(config().CurrYear, year + 1);
   EXPECT_EQ(*store().ScalarInt("SELECT CurrYear FROM Config WHERE IdConfig = 0"), year + 1);
-}
-
-TEST_F(DayStep, TheEndOfWeekSixRunsItsEventsInOrder) {
-  RecordingRecruiting recruiting;
-  run().recruiting = &recruiting;
-  GoTo(6, "Saturday");
-  ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
   EXPECT_EQ(recruiting.calls,
             (std::vector<std::string>{"ScoutRecruitReport 2", "RecruitInterestReport",
                                       "ClearWeekDecisions", "ComputerRecruiting 6", "ClearWeekBids",
                                       "EstimateTopBids", "SetWeeklyPoints 7"}));
-  EXPECT_EQ(Only(ui().Captions(),
-                 {"Setting up CPU lineups", "Gathering info on second recruit", "Updating Stats",
-                  "Checking Recruit Interest", "CPU Recruiting", "Updating Lineups"}),
-            (std::vector<std::string>{"Setting up CPU lineups", "Gathering info on second recruit",
-                                      "Updating Stats", "Checking Recruit Interest",
-                                      "CPU Recruiting", "Updating Lineups"}));
+  const std::vector<std::string> saturday(ui().Captions().begin() + thursday,
+                                          ui().Captions().end());
+  const std::vector<std::string> events = {
+      "Setting up CPU lineups", "Gathering info on second recruit",
+      "Updating Stats",         "Checking Recruit Interest",
+      "CPU Recruiting",         "Updating Lineups"};
+  EXPECT_EQ(Only(saturday, events), events);
   EXPECT_EQ(run().caption, "Courtmere (Evaluation Period)");
 }
 
@@ -197,21 +196,6 @@ TEST_F(DayStep, ALastDayWithoutGamesStillEndsItsWeek) {
   EXPECT_EQ(*store().ScalarText("SELECT Health FROM Player WHERE Id = ?", hurt), "Good");
 }
 
-TEST_F(DayStep, TheSeasonEndsOnMondayOfWeekTwentyOne) {
-  GoTo(20, "Monday");
-  ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
-  EXPECT_EQ(config().CurrWeek, 21);
-  EXPECT_EQ(config().CurrDay, "Monday");
-  EXPECT_EQ(config().Stage, "Season Over");
-  EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");
-  DayScreen screen = OpenDayScreen(session());
-  EXPECT_FALSE(screen.simEnabled);
-  EXPECT_FALSE(screen.nextEnabled);
-  const std::string before = DumpStore(store());
-  EXPECT_EQ(SimDay(run()), DayOutcome::kStopped);
-  EXPECT_TRUE(DumpStore(store()) == before);
-}
-
 TEST_F(DayStep, TheUsersGameHeadsTheListAndTheListKeepsItsResults) {
   GoTo(2, "Thursday");
   DayScreen screen = OpenDayScreen(session());
@@ -233,17 +217,27 @@ TEST_F(DayStep, TheUsersGameHeadsTheListAndTheListKeepsItsResults) {
   EXPECT_EQ(UnplayedOn(store(), 2, "Thursday"), 0);
 }
 
-// End Season: refused before the season is over, nothing on No, and on Yes
-// the season's figures kept, the stage "End Season" and the autosave when
-// the option asks for it.
-TEST_F(DayStep, EndSeasonOnlyOnceTheSeasonIsOver) {
+// The season ends on Monday of week 21, where Sim Day stops. End Season:
+// refused before the season is over, nothing on No, and on Yes the season's
+// figures kept, the stage "End Season" and the autosave when the option
+// asks for it.
+TEST_F(DayStep, TheSeasonEndsOnMondayOfWeekTwentyOneAndOnlyThenEndSeasonRuns) {
   const std::string before = DumpStore(store());
   EXPECT_EQ(EndSeason(run()), SeasonEnd::kRefused);
   EXPECT_TRUE(DumpStore(store()) == before);
   GoTo(20, "Monday");
   ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed);
-  ui().QueueAnswer(false);
+  EXPECT_EQ(config().CurrWeek, 21);
+  EXPECT_EQ(config().CurrDay, "Monday");
+  EXPECT_EQ(config().Stage, "Season Over");
+  EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");
+  DayScreen screen = OpenDayScreen(session());
+  EXPECT_FALSE(screen.simEnabled);
+  EXPECT_FALSE(screen.nextEnabled);
   const std::string over = DumpStore(store());
+  EXPECT_EQ(SimDay(run()), DayOutcome::kStopped);
+  EXPECT_TRUE(DumpStore(store()) == over);
+  ui().QueueAnswer(false);
   EXPECT_EQ(EndSeason(run()), SeasonEnd::kDeclined);
   EXPECT_EQ(ui().Questions().back(), "Do you wish to end this season?");
   EXPECT_TRUE(DumpStore(store()) == over);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "people/league_fixture.h"
 #include "platform/numeric.h"
 #include "platform/rng.h"
@@ -12,15 +14,11 @@ namespace courtmere {
 namespace {
 
 TEST(HealingThreshold, AboveEightyFiveTwoElseHalfTheGapToNinetyRoundedToEven) {
-  EXPECT_EQ(HealingThreshold(100), 2);
-  EXPECT_EQ(HealingThreshold(86), 2);
-  EXPECT_EQ(HealingThreshold(85), 2);  // 2.5
-  EXPECT_EQ(HealingThreshold(84), 3);
-  EXPECT_EQ(HealingThreshold(53), 18);  // 18.5
-  EXPECT_EQ(HealingThreshold(51), 20);  // 19.5
-  EXPECT_EQ(HealingThreshold(50), 20);
-  EXPECT_EQ(HealingThreshold(49), 20);  // 20.5
-  EXPECT_EQ(HealingThreshold(0), 45);
+  // 85 gives 2.5, 53 18.5, 51 19.5, 49 20.5: halves round to even.
+  const std::pair<int, int> cases[] = {{100, 2}, {86, 2},  {85, 2},  {84, 3}, {53, 18},
+                                       {51, 20}, {50, 20}, {49, 20}, {0, 45}};
+  for (auto [ability, threshold] : cases)
+    EXPECT_EQ(HealingThreshold(ability), threshold) << ability;
 }
 
 class HealInjuriesTest : public ::testing::Test {
@@ -47,7 +45,7 @@ class HealInjuriesTest : public ::testing::Test {
   testing::LeagueFixture league_;
 };
 
-TEST_F(HealInjuriesTest, EachInjuredManDrawsOnceInTableOrder) {
+TEST_F(HealInjuriesTest, EachInjuredManOfTheFirstDivisionDrawsOnceInTableOrder) {
   struct Case {
     int id;
     int weeks;
@@ -61,7 +59,15 @@ TEST_F(HealInjuriesTest, EachInjuredManDrawsOnceInTableOrder) {
     cases.push_back(
         {Injure(trained ? "St. John's" : "No Trainer U", weeks), weeks, trained ? 20 : 45});
   }
+  // A background team's man does not heal, nor draw.
+  league_.AddScrubTeam("Little U", 40);
+  store().Append("ScrubPlayer", {{"Id", int64_t{9000}},
+                                 {"Team", "Little U"},
+                                 {"Health", "Knee"},
+                                 {"TimeInjured", int64_t{1}}});
   HealInjuries(league_.session());
+  EXPECT_EQ(store().ScalarText("SELECT Health FROM ScrubPlayer WHERE Id = 9000"), "Knee");
+  EXPECT_EQ(store().ScalarInt("SELECT TimeInjured FROM ScrubPlayer WHERE Id = 9000"), 1);
 
   // The same generator, drawn once per injured man in the order of the rows.
   Rng replay(kSeed);
@@ -82,17 +88,6 @@ TEST_F(HealInjuriesTest, EachInjuredManDrawsOnceInTableOrder) {
   EXPECT_GT(counted, 0);
   EXPECT_LT(counted, 60);
   EXPECT_EQ(Health(healthy), "Good");
-}
-
-TEST_F(HealInjuriesTest, BackgroundPlayersDoNotHeal) {
-  league_.AddScrubTeam("Little U", 40);
-  store().Append("ScrubPlayer", {{"Id", int64_t{9000}},
-                                 {"Team", "Little U"},
-                                 {"Health", "Knee"},
-                                 {"TimeInjured", int64_t{1}}});
-  HealInjuries(league_.session());
-  EXPECT_EQ(store().ScalarText("SELECT Health FROM ScrubPlayer WHERE Id = 9000"), "Knee");
-  EXPECT_EQ(store().ScalarInt("SELECT TimeInjured FROM ScrubPlayer WHERE Id = 9000"), 1);
 }
 
 }  // namespace

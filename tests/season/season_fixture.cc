@@ -56,12 +56,15 @@ void SeasonFixture::GoTo(int week, const std::string& day) {
   session().config.CurrDay = day;
 }
 
-void SeasonFixture::SimTo(int week, const std::string& day) {
+void SeasonFixture::SimTo(int week, const std::string& day,
+                          const std::function<void(int)>& weekEnded) {
   while (config().CurrWeek != week || config().CurrDay != day) {
     ASSERT_LT(config().CurrWeek, 21);
+    const int pressedIn = config().CurrWeek;
     ASSERT_EQ(SimDay(run()), DayOutcome::kPlayed)
-        << "week " << config().CurrWeek << ", " << config().CurrDay;
+        << "week " << pressedIn << ", " << config().CurrDay;
     SettleWeekFive(session());
+    if (weekEnded && config().CurrWeek != pressedIn) weekEnded(pressedIn);
   }
 }
 

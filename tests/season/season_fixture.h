@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -24,10 +25,8 @@ class SeasonFixture : public ::testing::Test, public DynastyFixture {
   // before it.
   void GoTo(int week, const std::string& day);
   // Presses Sim Day until the dynasty stands on (week, day); fails the test
-  // when a press does not play.
-  void SimTo(int week, const std::string& day);
-
-  int64_t Count(const std::string& sql) { return store().ScalarInt(sql).value_or(-1); }
+  // when a press does not play. `weekEnded` is told of each week that ends.
+  void SimTo(int week, const std::string& day, const std::function<void(int)>& weekEnded = nullptr);
 
  private:
   std::unique_ptr<SeasonRun> run_;

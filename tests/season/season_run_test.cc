@@ -1,7 +1,8 @@
 // A whole season played press by press from a freshly started dynasty: every
 // game of the schedule and of the tournaments has its score, no team plays
-// twice on a day, the records in TeamStats are the schedule's, the rankings,
-// awards and champions are there, the seeds' court edge is given on the
+// twice on a day, the records in TeamStats are the schedule's, each week's
+// end has its poll, rating index and player of the week, week 15 names the
+// season's teams, the champions are there, the seeds' court edge is given on the
 // NCT's first day alone, the season ends in "Season Over" on Monday of week
 // 21, and End Season clears the year's titles.
 #include <gtest/gtest.h>
@@ -143,6 +144,38 @@ void ExpectCourtEdgeOnlyOnTheFirstNctRound(Store& store, const std::vector<Playe
   EXPECT_EQ(thursdayEdges, 12);  // three pairings of each region
 }
 
+// What each week's end leaves: a poll of 25 distinct schools and a player
+// of the week but in week 5 (no games), the rating index of every
+// first-division team from week 5, and at week 15's end the season's teams.
+void ExpectWeekEnded(Store& store, int week) {
+  SCOPED_TRACE("end of week " + std::to_string(week));
+  auto count = [&store](const std::string& sql, auto... args) {
+    return store.ScalarInt(sql, args...).value_or(-1);
+  };
+  if (week > 15) return;
+  if (week != 5) {
+    EXPECT_EQ(count("SELECT count(DISTINCT SchoolName) FROM Ranking WHERE TeamRanking BETWEEN 1 "
+                    "AND 25"),
+              25);
+    EXPECT_EQ(count("SELECT count(*) FROM AwardWinners WHERE Type = 'week' AND WeekNo = ?", week),
+              1);
+  }
+  if (week >= 5) {
+    EXPECT_EQ(count("SELECT count(*) FROM Team JOIN CRIRank USING (SchoolName)"),
+              count("SELECT count(*) FROM Team"));
+  }
+  if (week != 15) return;
+  std::set<int> positions;
+  for (Rows r = store.Query("SELECT WeekNo FROM AwardWinners WHERE Type = 'FirstAA'"); r.Next();) {
+    positions.insert(r.Int(0));
+  }
+  EXPECT_EQ(positions, (std::set<int>{1, 2, 3, 4, 5}));
+  EXPECT_EQ(count("SELECT count(*) FROM AwardWinners WHERE Type = 'NationalPOY'"), 1);
+  for (Rows r = store.Query("SELECT Conference FROM League WHERE SchedType <> ''"); r.Next();) {
+    EXPECT_EQ(count("SELECT count(*) FROM AwardWinners WHERE Type = ?", r.Text(0)), 5) << r.Text(0);
+  }
+}
+
 using WholeSeason = SeasonFixture;
 
 // The user's chart is kept by the computer, as the command-line tool keeps
@@ -156,19 +189,19 @@ TEST_F(WholeSeason, PlayedPressByPressToSeasonOverAndEnded) {
         {config().CurrWeek, config().CurrDay, request.GameNo, request.GameType, request.CourtEdge});
     return RunEngine(game, day, request, box, log);
   };
-  SimTo(21, "Monday");
+  std::vector<int> weeksEnded;
+  SimTo(21, "Monday", [this, &weeksEnded](int week) {
+    weeksEnded.push_back(week);
+    ExpectWeekEnded(store(), week);
+  });
+  EXPECT_EQ(weeksEnded.size(), 20u);
   EXPECT_EQ(config().Stage, "Season Over");
   EXPECT_EQ(*store().ScalarText("SELECT Stage FROM Config WHERE IdConfig = 0"), "Season Over");
   ExpectEveryGamePlayedOnce(store());
   ExpectRecordsAreTheScheduleResults(store());
-  // The week's ends ranked the teams and named a player of each week but
-  // the fifth (no games) and the sixteenth (its Sunday selects the
+  // No player of the week for the sixteenth (its Sunday selects the
   // tournaments instead); the tournaments crowned their champions.
-  EXPECT_EQ(
-      Count("SELECT count(DISTINCT SchoolName) FROM Ranking WHERE TeamRanking BETWEEN 1 AND 25"),
-      25);
   EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week'"), 14);
-  EXPECT_EQ(Count("SELECT count(*) FROM AwardWinners WHERE Type = 'week' AND WeekNo = 5"), 0);
   EXPECT_TRUE(NctChampion(store()).has_value());
   EXPECT_EQ(Count("SELECT count(*) FROM Team WHERE Winner IN (1, 3)"),
             Count("SELECT count(*) FROM League WHERE SchedType <> ''"));

@@ -76,7 +76,7 @@ TEST_F(SeasonStatsTest, ASavedSeasonComesBackWhole) {
   EXPECT_DOUBLE_EQ(*store().ScalarDouble("SELECT MPG FROM ScrubPlayer WHERE Id = 9001"), 28);
 }
 
-TEST_F(SeasonStatsTest, AReleasedPlayersFiguresMoveToNoOneElse) {
+TEST_F(SeasonStatsTest, AReleasedPlayersFiguresMoveToNoOneElseAndUnloadedOnesSaveNothing) {
   const int gone = stats().Team(1).Players[1].Id;
   const int next = stats().Team(1).Players[2].Id;
   stats().Team(1).Players[1].Points = 300;
@@ -85,9 +85,7 @@ TEST_F(SeasonStatsTest, AReleasedPlayersFiguresMoveToNoOneElse) {
   SaveSeasonStats(session());
   EXPECT_EQ(store().ScalarInt("SELECT Points FROM PlayerStats WHERE Id = ?", next), 5);
   EXPECT_FALSE(store().ScalarInt("SELECT Points FROM PlayerStats WHERE Id = ?", gone));
-}
-
-TEST_F(SeasonStatsTest, FiguresNeverLoadedLeaveTheTableAlone) {
+  // Figures never loaded leave the table alone.
   store().Exec("UPDATE PlayerStats SET Points = 17");
   stats().Clear();
   SaveSeasonStats(session());

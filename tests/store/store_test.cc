@@ -98,7 +98,7 @@ TEST_F(StoreTest, TransactionsRollBackUnlessCommittedAndNest) {
   EXPECT_FALSE(store_->ScalarInt("SELECT Id FROM Trainer WHERE Id = 2").has_value());
 }
 
-TEST_F(StoreTest, SeeksNamesById) {
+TEST_F(StoreTest, SeeksNamesByIdAndKnowsItsTablesAndColumns) {
   store_->Exec("DELETE FROM FName");
   store_->Exec("DELETE FROM LName");
   store_->Append("FName", {{"Id", 1}, {"FirstName", "Marcus"}});
@@ -106,9 +106,6 @@ TEST_F(StoreTest, SeeksNamesById) {
   EXPECT_EQ(store_->FirstName(1), "Marcus");
   EXPECT_EQ(store_->LastName(1), "O'Neal");
   EXPECT_EQ(store_->FirstName(2), "");
-}
-
-TEST_F(StoreTest, KnowsItsTablesAndColumns) {
   EXPECT_TRUE(store_->TableExists("League9Schedule"));
   EXPECT_FALSE(store_->TableExists("League10Schedule"));
   EXPECT_TRUE(store_->ColumnExists("Records", "FGPercentSeasonYear"));
