@@ -46,13 +46,13 @@ void WriteScholarships(Session& session) {
 }
 
 void ScoutReport(SeasonRun& run, const char* text, int recruit) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, text);
   run.recruiting->ScoutRecruitReport(run.session, recruit);
 }
 
 void InterestReport(SeasonRun& run) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, "Checking Recruit Interest");
   run.recruiting->RecruitInterestReport(run.session);
 }
@@ -80,7 +80,7 @@ void WeekTwo(SeasonRun& run) {
 }
 
 void WeekTen(SeasonRun& run) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, "Checking High School Test scores");
   run.recruiting->RecruitTestScores(run.session, 1);
   AddInboxMessage(run.session, "Compliance Dir", "Recruit Test Scores",
@@ -167,7 +167,7 @@ void WeekEvents(SeasonRun& run, int week) {
                          "visits.");
       break;
     case 9:
-      if (run.recruiting->Active()) {
+      if (run.recruiting->SigningActive()) {
         Progress(run, "Scouts looking for a backup recruit");
         run.recruiting->FindBackupRecruit(session);
       }
@@ -190,6 +190,7 @@ void WeekEvents(SeasonRun& run, int week) {
       break;
   }
   if (const std::string caption = WeekEndCaption(week); !caption.empty()) run.caption = caption;
+  run.recruiting->WeekEnded(session, week);
 }
 
 // The computer's recruiting week and the reset of the week's decisions.
@@ -197,8 +198,10 @@ void RecruitingWeekEnd(SeasonRun& run, int week) {
   RecruitingWeek& recruiting = *run.recruiting;
   if (week >= 13 || !recruiting.Active()) return;
   recruiting.ClearWeekDecisions(run.session);
-  Progress(run, "CPU Recruiting");
-  recruiting.ComputerRecruiting(run.session, week);
+  if (recruiting.ComputerActive()) {
+    Progress(run, "CPU Recruiting");
+    recruiting.ComputerRecruiting(run.session, week);
+  }
   recruiting.ClearWeekBids(run.session);
   if (week >= 6) recruiting.EstimateTopBids(run.session);
 }
@@ -254,7 +257,7 @@ void WeekFiveEvents(SeasonRun& run) {
   Session& session = run.session;
   RecruitingWeek& recruiting = *run.recruiting;
   HealInjuries(session);
-  if (recruiting.Active()) recruiting.ComputerRecruiting(session, 5);
+  if (recruiting.ComputerActive()) recruiting.ComputerRecruiting(session, 5);
   UpdateCRI(session);
   if (recruiting.Active()) recruiting.ClearWeekDecisions(session);
   AddInboxMessage(session, "Dynasty Gazette", "CRI Ranking",
@@ -263,6 +266,7 @@ void WeekFiveEvents(SeasonRun& run) {
                   "percentage and strength of schedule. Click National and View CRI to see these "
                   "rankings.");
   run.caption = WeekEndCaption(5);
+  recruiting.WeekEnded(session, 5);
 }
 
 }  // namespace courtmere
