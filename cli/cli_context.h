@@ -9,6 +9,7 @@
 #include <string>
 
 #include "cli_ui.h"
+#include "recruiting/season_recruiting.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -18,6 +19,9 @@ struct CliContext {
   std::optional<uint64_t> seed;  // --seed; fixed-seed mode when given
   CliUi ui;
   std::unique_ptr<Session> session;
+  // The recruiting the season's run plugs in (its period lives as long as
+  // the command).
+  SeasonRecruiting recruiting;
 
   // Builds the session and runs the program's start-up (the store is open
   // afterwards).
@@ -58,5 +62,8 @@ void AddPollCommand(CLI::App& app, CliContext& context);
 void AddCriCommand(CLI::App& app, CliContext& context);
 void AddAwardsCommand(CLI::App& app, CliContext& context);
 void AddBracketCommand(CLI::App& app, CliContext& context);
+void AddRecruitsCommand(CLI::App& app, CliContext& context);
+void AddRecruitCommand(CLI::App& app, CliContext& context);
+void AddRecruitingCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

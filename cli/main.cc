@@ -33,6 +33,9 @@ int main(int argc, char** argv) {
   courtmere::cli::AddPollCommand(app, context);
   courtmere::cli::AddCriCommand(app, context);
   courtmere::cli::AddAwardsCommand(app, context);
+  courtmere::cli::AddRecruitsCommand(app, context);
+  courtmere::cli::AddRecruitCommand(app, context);
+  courtmere::cli::AddRecruitingCommand(app, context);
 
   try {
     app.parse(argc, argv);
