@@ -11,7 +11,8 @@ cli_options=(--home "$work/a")
 points() { sed -n 's/^Points left this week: //p' <<<"$out"; }
 
 run 0 --seed 3 new --conferences "MVC;WAC;Atlantic 10" --school "St. John's" --coach "D'Angelo O'Neil"
-run 2 recruiting
+run 0 recruiting
+expect "OffSeason Period"
 run 2 recruit add 1
 expect "Recruits can only be worked on in the stage Season"
 run 0 --seed 3 start-season
