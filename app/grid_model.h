@@ -40,6 +40,8 @@ class GridModel : public QAbstractTableModel {
 
   // Replaces every row; `keys` holds one key per row (or is empty).
   void SetRows(std::vector<GridRow> rows, std::vector<int> keys = {});
+  // Renames the columns (their number stays).
+  void SetHeadings(QStringList headings);
   int Key(int row) const;
   const GridCell& Cell(int row, int column) const { return rows_[row][column]; }
 
