@@ -193,16 +193,22 @@ class Tour {
   // Five recruits of the East taken from the regional list, one by one
   // after the list's question, with the first one's card shown.
   void ChooseRecruits() {
-    Open("mnuRecruitViewRecruitsEast", "recruits_east");
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuRecruitViewRecruitsEast");
     auto* list = Find<RecruitListScreen>();
     if (!list) return;
+    Snap("recruits_east");
     for (int row = 0; row < 5 && row < list->Grid()->Model()->rowCount(); ++row) {
       list->Grid()->selectRow(row);
       list->AddSelected();
     }
     emit list->Grid()->CellClicked(0, 1);
     Snap("recruits_east_card");
-    Open("mnuRecruitMagazine50", "recruits_top50");
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuRecruitMagazine50");
+    Snap("recruits_top50");
     window_->CloseScreens();
   }
 

@@ -61,6 +61,11 @@ class RecruitingTest : public QObject {
   }
 
   void addFromTheRegionalList() {
+    for (const char* entry :
+         {"mnuRecruitViewTeam", "mnuRecruitViewRecruitsEast", "mnuRecruitInterested",
+          "mnuRecruitMagazine50", "mnuRecruitMagazineC"}) {
+      QVERIFY2(window_->Entry(entry)->isEnabled(), entry);
+    }
     window_->Entry("mnuRecruitViewRecruitsEast")->trigger();
     auto* list = Find<RecruitListScreen>(*window_);
     QVERIFY(list);
