@@ -22,6 +22,12 @@ GridCell GridCell::Whole(int64_t value) {
 GridModel::GridModel(QStringList headings, QObject* parent)
     : QAbstractTableModel(parent), headings_(std::move(headings)) {}
 
+void GridModel::SetHeadings(QStringList headings) {
+  if (headings == headings_) return;
+  headings_ = std::move(headings);
+  emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(headings_.size()) - 1);
+}
+
 void GridModel::SetRows(std::vector<GridRow> rows, std::vector<int> keys) {
   beginResetModel();
   rows_ = std::move(rows);

@@ -42,6 +42,8 @@ class GridModel : public QAbstractTableModel {
 
   // Replaces every row; `keys` holds one key per row (or is empty).
   void SetRows(std::vector<GridRow> rows, std::vector<int> keys = {});
+  // Renames the columns (their number stays).
+  void SetHeadings(QStringList headings);
   int Key(int row) const;
   void SetHeading(int column, const QString& heading);
   const GridCell& Cell(int row, int column) const { return rows_[row][column]; }

@@ -179,6 +179,7 @@ void MainWindow::RegisterCommands() {
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
+  RegisterRecruitCommands();
 }
 
 void MainWindow::On(const char* entry, std::function<void()> command) {
@@ -233,7 +234,7 @@ void MainWindow::RunGate() {
 
 void MainWindow::ApplyGate(const MenuGateState& state) {
   gate_ = state;
-  setWindowTitle(QString::fromStdString(state.title));
+  setWindowTitle(QString::fromStdString(WindowTitle(state.title)));
   UpdateEntries();
   UpdateIntro();
   inbox_->setVisible(state.dynasty);

@@ -21,7 +21,8 @@
 
 namespace courtmere {
 struct SeasonRun;
-}
+class SeasonRecruiting;
+}  // namespace courtmere
 
 class QAction;
 class QMdiArea;
@@ -61,6 +62,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   ScoreTicker* Ticker() const { return ticker_; }
   // The season's run of this dynasty: the day screen, the auto-sim flag.
   SeasonRun& Season();
+  // The recruiting the season's run plugs in, with the period it holds.
+  SeasonRecruiting& Recruiting();
 
   // File > Load and File > Save; SaveGame answers whether a save was written.
   void LoadGame();
@@ -87,6 +90,11 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void RegisterCommands();
   // The entries of the season: Sim Games, the auto-sim, End Season.
   void RegisterSeasonCommands();
+  // The Recruit menu's entries.
+  void RegisterRecruitCommands();
+  // The window's title: the gate's, or the period's caption the running
+  // season has set.
+  std::string WindowTitle(const std::string& gateTitle) const;
   void On(const char* entry, std::function<void()> command);
   void ApplyGate(const MenuGateState& state);
   bool Usable(std::string_view name) const;
@@ -128,6 +136,7 @@ class MainWindow : public QMainWindow, public ScreenHost {
     void operator()(SeasonRun* run) const;
   };
   std::unique_ptr<SeasonRun, SeasonRunDeleter> season_;
+  std::shared_ptr<SeasonRecruiting> recruiting_;  // lives as long as season_
   QMdiSubWindow* introWindow_ = nullptr;
   IntroScreen* intro_ = nullptr;
   QMdiSubWindow* homeWindow_ = nullptr;

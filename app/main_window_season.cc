@@ -4,6 +4,7 @@
 #include "app/main_window.h"
 #include "app/score_ticker.h"
 #include "app/sim_games_screen.h"
+#include "recruiting/season_recruiting.h"
 #include "season/auto_sim.h"
 #include "season/end_season.h"
 #include "season/season_run.h"
@@ -19,6 +20,8 @@ SeasonRun& MainWindow::Season() {
   if (!season_) {
     season_.reset(new SeasonRun(session_));
     season_->observer = ticker_;
+    recruiting_ = std::make_shared<SeasonRecruiting>();
+    season_->recruiting = recruiting_.get();
   }
   ticker_->SetUserSchool(session_.humanSchool);
   return *season_;
@@ -27,6 +30,22 @@ SeasonRun& MainWindow::Season() {
 void MainWindow::EndSeasonRun() {
   CloseScreens();
   season_.reset();
+  recruiting_.reset();
+}
+
+SeasonRecruiting& MainWindow::Recruiting() {
+  Season();
+  return *recruiting_;
+}
+
+std::string MainWindow::WindowTitle(const std::string& gateTitle) const {
+  // Week 1 is the Dead period of every season: a caption left from the
+  // last season's run does not stand for it.
+  const Config& c = session_.config;
+  if (!season_ || season_->caption.empty() || c.Stage != kStageSeason || c.CurrWeek <= 1) {
+    return gateTitle;
+  }
+  return season_->caption;
 }
 
 void MainWindow::RegisterSeasonCommands() {

@@ -16,6 +16,9 @@
 #include "app/inbox_dock.h"
 #include "app/main_window.h"
 #include "app/play_steps.h"
+#include "app/recruit_board_screen.h"
+#include "app/recruit_list_screen.h"
+#include "app/recruit_rank_screen.h"
 #include "app/sim_games_screen.h"
 #include "app/staff_screen.h"
 #include "app/suspensions_screen.h"
@@ -100,7 +103,9 @@ class Tour {
     window_->CloseScreens();
     window_->RunCommand("mnuOffSeasonStart");
     Snap("season_start");
+    ChooseRecruits();
     PlayDays();
+    ShowRecruiting();
     for (const auto& [entry, name] : kSeasonScreens) Open(entry, name);
     ShowSuspensions();
     window_->CloseScreens();
@@ -226,6 +231,58 @@ class Tour {
       list->Conferences()->setCurrentIndex(i);
     }
     Snap("suspensions");
+  }
+
+  // Five recruits of the East taken from the regional list, one by one
+  // after the list's question, with the first one's card shown.
+  void ChooseRecruits() {
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuRecruitViewRecruitsEast");
+    auto* list = Find<RecruitListScreen>();
+    if (!list) return;
+    Snap("recruits_east");
+    for (int row = 0; row < 5 && row < list->Grid()->Model()->rowCount(); ++row) {
+      list->Grid()->selectRow(row);
+      list->AddSelected();
+    }
+    emit list->Grid()->CellClicked(0, 1);
+    Snap("recruits_east_card");
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuRecruitMagazine50");
+    Snap("recruits_top50");
+    window_->CloseScreens();
+  }
+
+  // The team recruiting screen in the week the days reached: the best
+  // ranked first, a call on him with the bid list's choice, and his card.
+  void ShowRecruiting() {
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuRecruitViewTeam");
+    auto* board = Find<RecruitBoardScreen>();
+    if (!board || board->Grid()->Model()->rowCount() == 0) return;
+    board->findChild<QPushButton*>("cmdRank")->click();
+    Settle();
+    if (auto* rank = Find<RecruitRankScreen>()) {
+      for (int n = 0; n < board->Grid()->Model()->rowCount(); ++n) {
+        if (QComboBox* combo = rank->RankOf(board->Grid()->Model()->Key(n))) {
+          combo->setCurrentIndex(n + 1);
+        }
+      }
+      Snap("recruit_ranks");
+      rank->Submit();
+    }
+    Settle();
+    board->SelectRecruit(board->Grid()->Model()->Key(0));
+    if (board->Actions()->count() > 0) {
+      board->Actions()->setCurrentIndex(0);
+      board->findChild<QPushButton*>("cmdBid")->click();
+    }
+    Settle();
+    Snap("team_recruiting");
+    window_->CloseScreens();
   }
 
   // One screen at a time, over the main window with its inbox.

@@ -10,6 +10,7 @@
 
 #include "cli_ui.h"
 #include "refusal.h"
+#include "recruiting/season_recruiting.h"
 #include "store/session.h"
 
 namespace courtmere::cli {
@@ -19,6 +20,9 @@ struct CliContext {
   std::optional<uint64_t> seed;  // --seed; fixed-seed mode when given
   CliUi ui;
   std::unique_ptr<Session> session;
+  // The recruiting the season's run plugs in (its period lives as long as
+  // the command).
+  SeasonRecruiting recruiting;
 
   // Builds the session and runs the program's start-up (the store is open
   // afterwards). With a dynasty in the store, the random stream is the
@@ -62,5 +66,8 @@ void AddBracketCommand(CLI::App& app, CliContext& context);
 void AddOptionsCommand(CLI::App& app, CliContext& context);
 void AddStaffCommand(CLI::App& app, CliContext& context);
 void AddLineupCommand(CLI::App& app, CliContext& context);
+void AddRecruitsCommand(CLI::App& app, CliContext& context);
+void AddRecruitCommand(CLI::App& app, CliContext& context);
+void AddRecruitingCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -1,8 +1,8 @@
 // courtmere-cli bench-season: with a fixed seed, from a blank store, a new
 // dynasty, Start Season and a whole season played to "Season Over" with box
-// scores off. Its last line is the signature of every schedule row's result
-// and of the final poll, the number of games, and the seconds the season
-// itself took. A change of behaviour anywhere in the season changes the
+// scores off, the user's recruiting week running (he lists no recruit). Its last line is the
+// signature of every schedule row's result and of the final poll, the number of games, and the
+// seconds the season itself took. A change of behaviour anywhere in the season changes the
 // signature.
 #include <fmt/format.h>
 
@@ -13,6 +13,7 @@
 #include "cli_context.h"
 #include "league/start_season.h"
 #include "platform/scripted_ui.h"
+#include "recruiting/season_recruiting.h"
 #include "screens/new_dynasty_run.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
@@ -90,6 +91,8 @@ void RunBenchSeason(CliContext& context) {
   Session session(ProgramFolder(folder.Path()), Rng(context.seed.value_or(kSeasonBenchSeed)), ui);
   OpenDynasty(session);
   SeasonRun run(session);
+  SeasonRecruiting recruiting;
+  run.recruiting = &recruiting;
   run.cpuSetsUserTeam = true;
   const auto start = std::chrono::steady_clock::now();
   const int days = PlaySeason(run);

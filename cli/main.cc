@@ -58,6 +58,9 @@ int main(int argc, char** argv) {
   courtmere::cli::AddOptionsCommand(app, context);
   courtmere::cli::AddStaffCommand(app, context);
   courtmere::cli::AddLineupCommand(app, context);
+  courtmere::cli::AddRecruitsCommand(app, context);
+  courtmere::cli::AddRecruitCommand(app, context);
+  courtmere::cli::AddRecruitingCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

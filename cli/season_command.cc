@@ -12,6 +12,7 @@ std::unique_ptr<SeasonRun> ResumeSeasonRun(CliContext& context) {
   RequireDynasty(session);
   ResumeSeason(session);
   auto run = std::make_unique<SeasonRun>(session);
+  run->recruiting = &context.recruiting;
   run->keepWithDay = [](Session& s) { SaveSeasonStats(s); };
   return run;
 }

@@ -1003,7 +1003,7 @@ CREATE TABLE RecruitDecision (
   Assistant INTEGER DEFAULT 0,
   Visit INTEGER DEFAULT 0,
   CampusVisit INTEGER DEFAULT 0,
-  WeekDecision INTEGER DEFAULT 0,
+  WeekDecision TEXT DEFAULT 'none',
   WeekBid INTEGER DEFAULT 0,
   RecruitPoints INTEGER DEFAULT 0,
   TopBid INTEGER DEFAULT 0,

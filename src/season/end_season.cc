@@ -34,7 +34,7 @@ void SaveHistory(SeasonRun& run) {
 
 void SignRecruits(SeasonRun& run) {
   Session& session = run.session;
-  if (run.recruiting->Active()) {
+  if (run.recruiting->SigningActive()) {
     session.ui.ShowProgress("Recruits Choosing Schools");
     run.recruiting->SignRecruits(session);
   }

@@ -18,6 +18,15 @@ class RecruitingWeek {
 
   // Whether a recruiting library stands behind these calls.
   virtual bool Active() const { return false; }
+  // Whether the computer teams' recruiting stands behind ComputerRecruiting.
+  virtual bool ComputerActive() const { return Active(); }
+  // Whether the scouts' reports, the test scores and the signing stand
+  // behind their calls.
+  virtual bool SigningActive() const { return Active(); }
+
+  // The end of `week` has set the main window's caption; the recruiting
+  // period follows it (the calendar still stands on `week`).
+  virtual void WeekEnded(Session&, int /*week*/) {}
 
   // The user's recruiting points left this week (the Saturday question).
   virtual int PointsLeft(Session&) { return 0; }

@@ -47,13 +47,13 @@ void WriteScholarships(Session& session) {
 }
 
 void ScoutReport(SeasonRun& run, const char* text, int recruit) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, text);
   run.recruiting->ScoutRecruitReport(run.session, recruit);
 }
 
 void InterestReport(SeasonRun& run) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, "Checking Recruit Interest");
   run.recruiting->RecruitInterestReport(run.session);
 }
@@ -81,7 +81,7 @@ void WeekTwo(SeasonRun& run) {
 }
 
 void WeekTen(SeasonRun& run) {
-  if (!run.recruiting->Active()) return;
+  if (!run.recruiting->SigningActive()) return;
   Progress(run, "Checking High School Test scores");
   run.recruiting->RecruitTestScores(run.session, 1);
   AddInboxMessage(run.session, "Compliance Dir", "Recruit Test Scores",
@@ -168,7 +168,7 @@ void WeekEvents(SeasonRun& run, int week) {
                          "visits.");
       break;
     case 9:
-      if (run.recruiting->Active()) {
+      if (run.recruiting->SigningActive()) {
         Progress(run, "Scouts looking for a backup recruit");
         run.recruiting->FindBackupRecruit(session);
       }
@@ -191,6 +191,7 @@ void WeekEvents(SeasonRun& run, int week) {
       break;
   }
   if (const std::string caption = WeekEndCaption(week); !caption.empty()) run.caption = caption;
+  run.recruiting->WeekEnded(session, week);
 }
 
 // The computer's recruiting week and the reset of the week's decisions.
@@ -198,8 +199,10 @@ void RecruitingWeekEnd(SeasonRun& run, int week) {
   RecruitingWeek& recruiting = *run.recruiting;
   if (week >= 13 || !recruiting.Active()) return;
   recruiting.ClearWeekDecisions(run.session);
-  Progress(run, "CPU Recruiting");
-  recruiting.ComputerRecruiting(run.session, week);
+  if (recruiting.ComputerActive()) {
+    Progress(run, "CPU Recruiting");
+    recruiting.ComputerRecruiting(run.session, week);
+  }
   recruiting.ClearWeekBids(run.session);
   if (week >= 6) recruiting.EstimateTopBids(run.session);
 }
@@ -257,7 +260,7 @@ void WeekFiveEvents(SeasonRun& run) {
   Session& session = run.session;
   RecruitingWeek& recruiting = *run.recruiting;
   HealInjuries(session);
-  if (recruiting.Active()) recruiting.ComputerRecruiting(session, 5);
+  if (recruiting.ComputerActive()) recruiting.ComputerRecruiting(session, 5);
   UpdateCRI(session);
   RecordRanks(session.Db(), 5);
   if (recruiting.Active()) recruiting.ClearWeekDecisions(session);
@@ -267,6 +270,7 @@ void WeekFiveEvents(SeasonRun& run) {
                   "percentage and strength of schedule. Click National and View CRI to see these "
                   "rankings.");
   run.caption = WeekEndCaption(5);
+  recruiting.WeekEnded(session, 5);
 }
 
 }  // namespace courtmere

@@ -503,7 +503,9 @@ class NewSeasonTest : public QObject {
                 .endsWith("So, are you sure you want to start the auto sim?"));
     QCOMPARE(session_->config.CurrWeek, 15);
     QCOMPARE(session_->config.CurrDay, std::string("Thursday"));
-    QCOMPARE(window_->windowTitle(), QString("Courtmere (Signing Period)"));
+    // The running season's caption: Dead from the end of week 12 to that of
+    // week 15 (a loaded dynasty's week 15 reads Signing).
+    QCOMPARE(window_->windowTitle(), QString("Courtmere (Dead Period)"));
     QVERIFY(!window_->Entry("mnuStartAutoSim")->isEnabled());
     QVERIFY(!window_->Entry("mnuStopAutoSim")->isEnabled());
     QVERIFY(window_->Entry("mnuSeasonSimGames")->isEnabled());
