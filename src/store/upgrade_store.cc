@@ -140,6 +140,26 @@ void UpgradeOldLayout(Session& session, const PlayerGrader& gradeAllPlayers) {
   session.ui.HideProgress();
 }
 
+// Saves made before the user could recruit declared RecruitDecision's
+// WeekDecision an integer; the strict table would then refuse the action's
+// name. Nothing wrote that table before, so its rows (if any) are carried
+// over with no decision for the week.
+void RetypeWeekDecision(Store& store) {
+  const auto type = store.ScalarText(
+      "SELECT type FROM pragma_table_info('RecruitDecision') WHERE name = 'WeekDecision'");
+  if (!type || *type != "INTEGER") return;
+  Store::Transaction tx(store);
+  store.ExecScript("ALTER TABLE RecruitDecision RENAME TO RecruitDecisionOld");
+  store.ExecScript(SchemaStatement("CREATE TABLE RecruitDecision ("));
+  store.ExecScript(
+      "INSERT INTO RecruitDecision (Id, Team, PlayerID, RecruitNo, Call, Assistant, Visit, "
+      "CampusVisit, WeekBid, RecruitPoints, TopBid, Scholarship) "
+      "SELECT Id, Team, PlayerID, RecruitNo, Call, Assistant, Visit, CampusVisit, WeekBid, "
+      "RecruitPoints, TopBid, Scholarship FROM RecruitDecisionOld; "
+      "DROP TABLE RecruitDecisionOld");
+  tx.Commit();
+}
+
 }  // namespace
 
 bool HasOldLayout(Store& store) {
@@ -161,6 +181,7 @@ void UpgradeStore(Session& session, const PlayerGrader& gradeAllPlayers) {
   if (!store.TableExists("RankHistory")) {
     store.ExecScript(SchemaStatement("CREATE TABLE RankHistory ("));
   }
+  RetypeWeekDecision(store);
   if (!HasOldLayout(store)) return;
   if (!gradeAllPlayers) {
     throw StoreError("A store of the old layout needs its players graded anew");

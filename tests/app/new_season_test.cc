@@ -244,15 +244,17 @@ class NewSeasonTest : public QObject {
   }
 
   // With no other screen open the home screen stands, and its list holds the
-  // two guards of Sim Day and the day to play; the recruiting tasks wait for
-  // their screens, and nothing is offered whose entry is closed.
+  // two guards of Sim Day, the week's recruiting (no list yet, the week's
+  // points unspent) and the day to play; nothing is offered whose entry is
+  // closed.
   void theHomeScreenListsWhatToDo() {
     window_->CloseScreens();
     Settle();
     HomeScreen* home = window_->Home();
     QVERIFY(home);
     QCOMPARE(home->TodoEntries(),
-             (QStringList{"mnuManagementRoster", "mnuStaffViewCoaches", "mnuSeasonSimGames"}));
+             (QStringList{"mnuManagementRoster", "mnuStaffViewCoaches", "mnuRecruitViewTeam",
+                          "mnuRecruitViewTeam", "mnuSeasonSimGames"}));
     QCOMPARE(home->TodoTexts().last(), QString("Play the games of Thursday, week 1"));
     QCOMPARE(home->Value("Record"), QString("0-0"));
     QVERIFY2(home->Value("Place").contains(" of "), qPrintable(home->Value("Place")));
@@ -289,7 +291,8 @@ class NewSeasonTest : public QObject {
     window_->CloseScreens();
     Settle();
     QCOMPARE(window_->Home()->TodoEntries(),
-             (QStringList{"mnuStaffViewCoaches", "mnuSeasonSimGames"}));
+             (QStringList{"mnuStaffViewCoaches", "mnuRecruitViewTeam", "mnuRecruitViewTeam",
+                          "mnuSeasonSimGames"}));
 
     window_->Entry("mnuSeasonSimGames")->trigger();
     screen = Find<SimGamesScreen>(*window_);
@@ -326,7 +329,8 @@ class NewSeasonTest : public QObject {
     QCOMPARE(Column(staff->Grid(), 13), (QStringList{"1", "2", "1"}));
     window_->CloseScreens();
     Settle();
-    QCOMPARE(window_->Home()->TodoEntries(), (QStringList{"mnuSeasonSimGames"}));
+    QCOMPARE(window_->Home()->TodoEntries(),
+             (QStringList{"mnuRecruitViewTeam", "mnuRecruitViewTeam", "mnuSeasonSimGames"}));
   }
 
   // Sim Day and Next Day through week 1; the home screen then shows the

@@ -33,7 +33,7 @@ expect "High School:"
 
 for id in "${ids[@]:0:5}"; do
   run 0 recruit add "$id"
-  expect "has been added to your list of recruits."
+  expect_err "has been added to your list of recruits."
 done
 cp "$work/a/mereball.dat" "$work/five.dat"
 run 2 recruit add "${ids[5]}"
@@ -59,7 +59,7 @@ expect "week 2: Contact Period"
 budget=$(points)
 ((budget >= 40)) || fail "a week-2 budget of $budget"
 run 0 recruit bid "${ids[0]}" Visit 30
-expect "Visit for"
+expect_err "Visit for"
 run 0 recruiting
 (($(points) == budget - 30)) || fail "the budget did not fall by the Visit's 30 points"
 cp "$work/a/mereball.dat" "$work/bid.dat"
@@ -76,14 +76,14 @@ run 0 recruit bid "${ids[1]}" Call 10
 run 0 recruiting
 (($(points) == budget - 40)) || fail "the budget did not fall by the Call's 10 points"
 run 0 recruit clear "${ids[1]}"
-expect "has been cleared"
+expect_err "has been cleared"
 run 0 recruiting
 (($(points) == budget - 30)) || fail "clearing did not give back the Call's 10 points"
 run 0 recruit bid "${ids[1]}" Assistant 20
 run 0 recruit offer "${ids[0]}"
-expect "has been offered a scholarship."
+expect_err "has been offered a scholarship."
 run 0 recruit remove "${ids[4]}"
-expect "has been removed from your list of recruits."
+expect_err "has been removed from your list of recruits."
 run 2 recruit remove "${ids[4]}"
 expect "That recruit is not on your list of recruits."
 

@@ -94,6 +94,27 @@ TEST_F(UpgradeStoreTest, EveryLoadPutsTheSeedRowsRight) {
   EXPECT_TRUE(dynasty_.ui().Captions().empty()) << "the current layout needs no more";
 }
 
+// A save from before the user could recruit declared the week's decision an
+// integer; the strict table would refuse "Visit" there.
+TEST_F(UpgradeStoreTest, ASaveFromBeforeRecruitingTakesTheWeeksDecisionAsText) {
+  Script(store(), {"DROP TABLE RecruitDecision",
+                   "CREATE TABLE RecruitDecision (Id INTEGER PRIMARY KEY, Team TEXT, PlayerID "
+                   "INTEGER DEFAULT 0, RecruitNo INTEGER DEFAULT 0, Call INTEGER DEFAULT 0, "
+                   "Assistant INTEGER DEFAULT 0, Visit INTEGER DEFAULT 0, CampusVisit INTEGER "
+                   "DEFAULT 0, WeekDecision INTEGER DEFAULT 0, WeekBid INTEGER DEFAULT 0, "
+                   "RecruitPoints INTEGER DEFAULT 0, TopBid INTEGER DEFAULT 0, Scholarship "
+                   "INTEGER DEFAULT 0) STRICT",
+                   "INSERT INTO RecruitDecision (Team, PlayerID, Visit) VALUES ('Duke', 7, 1)"});
+  EXPECT_ANY_THROW(store().Exec("UPDATE RecruitDecision SET WeekDecision = 'Visit'"));
+  UpgradeStore(session());
+  store().Exec("UPDATE RecruitDecision SET WeekDecision = 'Visit'");
+  EXPECT_EQ(store().ScalarInt("SELECT Visit FROM RecruitDecision WHERE PlayerID = 7"), 1);
+  testing::TempFolder fresh;
+  BuildBlankStore(fresh / "blank.dat");
+  Store blank(fresh / "blank.dat");
+  EXPECT_EQ(Columns(store(), "RecruitDecision", true), Columns(blank, "RecruitDecision", true));
+}
+
 TEST_F(UpgradeStoreTest, TheOldLayoutBecomesTheCurrentOne) {
   store().Exec("UPDATE HeadCoach SET Wins = 40, Losses = 22, ConfChamps = 1");
   store().Append("ScrubTeam", {{"SchoolName", "Siena"}});
