@@ -273,6 +273,7 @@ class Tour {
       }
       Snap("recruit_ranks");
       rank->Submit();
+      rank->findChild<QPushButton*>("cmdClose")->click();
     }
     Settle();
     board->SelectRecruit(board->Grid()->Model()->Key(0));
