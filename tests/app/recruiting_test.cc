@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "app/main_window.h"
+#include "app/play_steps.h"
 #include "app/recruit_board_screen.h"
 #include "app/recruit_card_view.h"
 #include "app/recruit_list_screen.h"
@@ -112,6 +113,8 @@ class RecruitingTest : public QObject {
   }
 
   void bidClearOfferRescindInTheContactPeriod() {
+    // The user asks the score ticker for no pause between games.
+    ChooseQuickestTicker(session(), *window_);
     SeasonRun& run = window_->Season();
     while (session().config.CurrWeek < 2) {
       SetTeamLineup(session(), session().humanSchool, 0);
