@@ -9,8 +9,8 @@
 #include <string>
 
 #include "cli_ui.h"
-#include "refusal.h"
 #include "recruiting/season_recruiting.h"
+#include "refusal.h"
 #include "store/session.h"
 
 namespace courtmere::cli {

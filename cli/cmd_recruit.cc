@@ -11,13 +11,13 @@
 #include <functional>
 
 #include "cli_context.h"
-#include "store/menu_gate.h"
 #include "recruiting/recruit_list.h"
 #include "recruiting/recruit_points.h"
 #include "recruiting/recruit_ranking.h"
 #include "screens/display_format.h"
 #include "screens/recruit_actions.h"
 #include "screens/recruit_card.h"
+#include "store/menu_gate.h"
 
 namespace courtmere::cli {
 
@@ -96,7 +96,8 @@ RecruitReply Rank(Session& session, int id, int rank) {
 
 // A reply that names the recruit when the operation itself says nothing.
 RecruitReply Told(Session& session, int id, RecruitReply reply, const char* what) {
-  if (reply.Done && reply.Message.empty()) reply.Message = fmt::format(fmt::runtime(what), Name(session, id));
+  if (reply.Done && reply.Message.empty())
+    reply.Message = fmt::format(fmt::runtime(what), Name(session, id));
   return reply;
 }
 

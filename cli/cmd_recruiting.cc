@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 
 #include "cli_context.h"
-#include "store/menu_gate.h"
 #include "screens/recruit_board.h"
+#include "store/menu_gate.h"
 #include "text_table.h"
 
 namespace courtmere::cli {

@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "cli_context.h"
-#include "store/menu_gate.h"
 #include "screens/recruit_lists.h"
+#include "store/menu_gate.h"
 #include "text_table.h"
 
 namespace courtmere::cli {
