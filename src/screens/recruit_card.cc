@@ -43,6 +43,9 @@ std::optional<RecruitCard> LoadRecruitCard(Session& session, int playerId) {
     card.ScoutingReport +=
         " He is declaring for the NBA draft and forfeiting his college eligability.";
   }
+  // Each sentence of the report is stored with the blank that joins it to
+  // the one before; the card shows the text without the first one's.
+  card.ScoutingReport.erase(0, card.ScoutingReport.find_first_not_of(' '));
   for (int i = 26; i < 29; ++i) {
     if (!r.Text(i).empty()) card.Schools.emplace_back(r.Text(i));
   }

@@ -110,6 +110,8 @@ TEST_F(RecruitScreens, ThePoolsListsAndTheCard) {
   EXPECT_EQ(card->Top50Rank, "No. 1 Overall");
   EXPECT_EQ(card->Schools.size(), 3u);
   EXPECT_EQ(card->Grades.size(), 10u);
+  ASSERT_FALSE(card->ScoutingReport.empty());
+  EXPECT_NE(card->ScoutingReport.front(), ' ') << "the report reads from its first word";
   EXPECT_FALSE(LoadRecruitCard(session(), -1).has_value());
 }
 
