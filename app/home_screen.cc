@@ -44,10 +44,12 @@ QString GameLine(const HomeGame& g) {
 }  // namespace
 
 HomeScreen::HomeScreen(Session& session, ScreenHost& host, std::function<void(const char*)> run,
-                       std::function<bool(const char*)> usable, QWidget* parent)
+                       std::function<bool(const char*)> usable,
+                       std::function<RecruitingPeriod()> period, QWidget* parent)
     : Screen(session, host, parent),
       run_(std::move(run)),
       usable_(std::move(usable)),
+      period_(std::move(period)),
       title_(new QLabel(this)),
       calendar_(new QLabel(this)),
       standing_(new QFormLayout),
@@ -92,7 +94,7 @@ QWidget* HomeScreen::Panel(const QString& title, QLayout* content) {
 }
 
 void HomeScreen::Refresh() {
-  home_ = LoadHome(session_);
+  home_ = LoadHome(session_, period_());
   title_->setText(Escaped(home_.School));
   QStringList line;
   if (!home_.Coach.empty()) line << "Coach " + Escaped(home_.Coach);

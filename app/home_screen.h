@@ -24,8 +24,11 @@ class HomeScreen : public Screen {
  public:
   // `run` runs a menu entry's command; `usable` tells whether the entry can
   // be used now (it has a command and the gate opens it).
+  // `period` gives the recruiting period in force, as the recruiting screens
+  // see it.
   HomeScreen(Session& session, ScreenHost& host, std::function<void(const char*)> run,
-             std::function<bool(const char*)> usable, QWidget* parent = nullptr);
+             std::function<bool(const char*)> usable, std::function<RecruitingPeriod()> period,
+             QWidget* parent = nullptr);
 
   QString Caption() const override { return "Home"; }
   QString Key() const override { return "frmHome"; }
@@ -51,6 +54,7 @@ class HomeScreen : public Screen {
 
   std::function<void(const char*)> run_;
   std::function<bool(const char*)> usable_;
+  std::function<RecruitingPeriod()> period_;
   Home home_;
   QLabel* title_;
   QLabel* calendar_;

@@ -42,6 +42,7 @@
 #include "league/new_dynasty.h"
 #include "league/start_season.h"
 #include "people/grade_all_players.h"
+#include "recruiting/season_recruiting.h"
 #include "season/season_session.h"
 #include "store/saved_games.h"
 #include "store/season_stats.h"
@@ -275,6 +276,10 @@ void MainWindow::ShowHome(bool shown) {
       [this](const char* name) {
         QAction* action = Entry(name);
         return action && action->isEnabled();
+      },
+      [this] {
+        return recruiting_ ? recruiting_->Period(session_.config)
+                           : PeriodAfterLoad(session_.config);
       });
   QMdiSubWindow* window = area_->addSubWindow(home_, Qt::FramelessWindowHint);
   window->setAttribute(Qt::WA_DeleteOnClose);

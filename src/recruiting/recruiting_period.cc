@@ -28,10 +28,15 @@ std::string PeriodName(RecruitingPeriod period) {
   return "";
 }
 
+std::string PeriodLabel(RecruitingPeriod period) {
+  if (period == RecruitingPeriod::kEndOfSeason) return "End of Season";
+  if (period == RecruitingPeriod::kNone) return "";
+  return PeriodName(period) + " Period";
+}
+
 std::string PeriodCaption(RecruitingPeriod period) {
-  if (period == RecruitingPeriod::kEndOfSeason) return "Courtmere (End of Season)";
-  if (period == RecruitingPeriod::kNone) return "Courtmere";
-  return "Courtmere (" + PeriodName(period) + " Period)";
+  const std::string label = PeriodLabel(period);
+  return label.empty() ? "Courtmere" : "Courtmere (" + label + ")";
 }
 
 RecruitingPeriod PeriodAfterLoad(const Config& config) {

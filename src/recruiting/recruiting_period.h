@@ -39,6 +39,10 @@ inline constexpr std::array<const char*, 4> kRecruitActions = {"Call", "Assistan
 // "OffSeason"; empty for kNone.
 std::string PeriodName(RecruitingPeriod period);
 
+// The period as the window names it: "Contact Period" and so on, "End of
+// Season"; empty for kNone.
+std::string PeriodLabel(RecruitingPeriod period);
+
 // The main window's caption in the period: "Courtmere (Contact Period)" and
 // so on, "Courtmere (End of Season)".
 std::string PeriodCaption(RecruitingPeriod period);

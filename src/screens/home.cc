@@ -4,7 +4,6 @@
 
 #include "league/standings.h"
 #include "screens/team_schedule.h"
-#include "store/menu_gate.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -13,15 +12,6 @@ namespace {
 
 std::string WinLoss(int wins, int losses) {
   return fmt::format("{}-{}", wins, losses);
-}
-
-// The period named in the window's title, "Courtmere (Contact Period)".
-std::string PeriodOf(Store& store) {
-  const std::string title = ComputeMenuGate(store).title;
-  const size_t open = title.find('(');
-  const size_t close = title.rfind(')');
-  if (open == std::string::npos || close == std::string::npos || close < open) return "";
-  return title.substr(open + 1, close - open - 1);
 }
 
 void LoadRecord(Store& store, Home& home) {
@@ -106,7 +96,7 @@ std::string Ordinal(int n) {
   return fmt::format("{}{}", n, suffix);
 }
 
-Home LoadHome(Session& session) {
+Home LoadHome(Session& session, RecruitingPeriod period) {
   Home home;
   home.Todo = TodoList(session);
   if (session.humanSchool.empty()) return home;
@@ -114,7 +104,7 @@ Home LoadHome(Session& session) {
   home.School = session.humanSchool;
   home.Coach = store.ScalarText("SELECT Name FROM HeadCoach ORDER BY rowid").value_or("");
   home.Calendar = CalendarText(session.config);
-  home.Period = PeriodOf(store);
+  home.Period = PeriodLabel(period);
   LoadRecord(store, home);
   LoadPlace(store, session.humanConference, home);
   LoadRanks(store, home);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "league/rank_history.h"
+#include "recruiting/recruiting_period.h"
 #include "screens/todo_list.h"
 
 namespace courtmere {
@@ -51,7 +52,7 @@ inline constexpr size_t kLastResults = 3;
 inline constexpr size_t kNewestLetters = 4;
 
 // Nothing but the to-do list without a dynasty.
-Home LoadHome(Session& session);
+Home LoadHome(Session& session, RecruitingPeriod period);
 
 // 1 "1st", 2 "2nd", 3 "3rd", 11 "11th", 22 "22nd".
 std::string Ordinal(int n);

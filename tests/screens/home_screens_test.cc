@@ -159,8 +159,9 @@ TEST_F(HomeScreensTest, TheRanksAreKeptWeekByWeekForTheHomeScreen) {
                                     {"Subject", "Letter " + std::to_string(i)}});
   }
   session().config.Stage = kStageSeason;
-  const Home home = LoadHome(session());
+  const Home home = LoadHome(session(), RecruitingPeriod::kContact);
   EXPECT_EQ(home.School, kSchool);
+  EXPECT_EQ(home.Period, "Contact Period");
   EXPECT_EQ(home.PollRank, "No. 9");
   EXPECT_EQ(home.CriRank, "No. 7");
   EXPECT_EQ(home.Ranks.size(), 2u);
