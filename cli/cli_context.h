@@ -69,5 +69,7 @@ void AddLineupCommand(CLI::App& app, CliContext& context);
 void AddRecruitsCommand(CLI::App& app, CliContext& context);
 void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
+void AddEndSeasonCommand(CLI::App& app, CliContext& context);
+void AddSigningsCommands(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli
