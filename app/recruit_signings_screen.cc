@@ -50,7 +50,7 @@ RecruitSigningsScreen::RecruitSigningsScreen(Session& session, ScreenHost& host,
   auto* layout = new QHBoxLayout(this);
   layout->addLayout(left, 3);
   layout->addLayout(right, 1);
-  resize(1100, 520);
+  resize(1260, 540);
   Refresh();
 }
 
