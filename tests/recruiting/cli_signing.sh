@@ -56,13 +56,12 @@ over=$(sql "SELECT count(*) FROM Team WHERE (SELECT count(*) FROM Recruit WHERE 
 SchoolName) > Scholarships")
 [[ $over == 0 ]] || fail "$over schools signed past their scholarships"
 signed=$(sql "SELECT Id FROM Recruit WHERE TeamChoice = 'St. John''s' LIMIT 1")
-if [[ -n $signed ]]; then
-  run 0 recruit card "$signed"
-  expect "Signed with: St. John's"
-  expect "He has signed with St. John's."
-  run 0 signings --school "St. John's"
-  expect "St. John's"
-fi
+[[ -n $signed ]] || fail "St. John's signed nobody"
+run 0 recruit card "$signed"
+expect "Signed with: St. John's"
+expect "He has signed with St. John's."
+run 0 signings --school "St. John's"
+expect "St. John's"
 run 2 end-season
 expect "The season can only be ended in the stage Season Over"
 
