@@ -69,5 +69,8 @@ void AddLineupCommand(CLI::App& app, CliContext& context);
 void AddRecruitsCommand(CLI::App& app, CliContext& context);
 void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
+void AddReviewCommand(CLI::App& app, CliContext& context);
+void AddJobsCommand(CLI::App& app, CliContext& context);
+void AddTakeJobCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli
