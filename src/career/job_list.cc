@@ -20,6 +20,8 @@ std::string WinPct(int wins, int games) {
 std::vector<JobOffer> OpenSchools(Store& store, const CareerRow& career) {
   const int rating = CInt(career.Rating);
   // A fired coach's "Fired-<school>" names no school: prestige 0.
+  // Design decision: the school that fired him makes him no offer, in the
+  // open list as among the three lowest.
   const int prestige =
       CInt(store.ScalarDouble("SELECT Prestige FROM Team WHERE SchoolName = ?", career.Team)
                .value_or(0));
@@ -29,7 +31,7 @@ std::vector<JobOffer> OpenSchools(Store& store, const CareerRow& career) {
            "Ranking.CoachRank FROM Team JOIN TeamStats ON Team.SchoolName = TeamStats.SchoolName "
            "JOIN Ranking ON Team.SchoolName = Ranking.SchoolName WHERE Team.Prestige < ? AND "
            "Team.Prestige < ? AND Team.SchoolName <> ? ORDER BY Team.Prestige DESC, Team.rowid",
-           rating, prestige + 11, career.Team);
+           rating, prestige + 11, career.School());
        r.Next() && offers.size() < kMostOffers;) {
     const int rank = r.Int(4);
     if (rank >= 1 && rank <= 10) continue;
