@@ -20,19 +20,25 @@ std::vector<PostRow> PostRows(Store& store, const std::string& sql, const std::s
 
 }  // namespace
 
+std::vector<std::string> PostColumns(Post post) {
+  if (post == Post::kScout) {
+    return {"Name",       "Salary",   "Scoring",          "Defending",
+            "Rebounding", "Handling", "Judges Potential", "Espionage"};
+  }
+  return {"Name", "Salary", "Ability"};
+}
+
 PostView LoadPostView(Store& store, Post post, const std::string& school) {
   PostView view;
+  view.Columns = PostColumns(post);
   std::string select;
   if (post == Post::kScout) {
     view.Caption = school + " Head Scout";
-    view.Columns = {"Name",       "Salary",   "Scoring",          "Defending",
-                    "Rebounding", "Handling", "Judges Potential", "Espionage"};
     select =
         "SELECT Id, Name, Salary, Scoring, Defending, Rebounding, Handling, Potential, Espionage "
         "FROM Scout ";
   } else {
     view.Caption = school + " Head Trainer";
-    view.Columns = {"Name", "Salary", "Ability"};
     select = "SELECT Id, Name, Salary, Ability FROM Trainer ";
   }
   view.Staff = PostRows(store, select + "WHERE Team = ? ORDER BY rowid", school);

@@ -23,6 +23,9 @@ struct PostView {
   std::vector<PostRow> Candidates;
 };
 
+// The lists' columns for Post::kScout or Post::kTrainer.
+std::vector<std::string> PostColumns(Post post);
+
 // For Post::kScout or Post::kTrainer.
 PostView LoadPostView(Store& store, Post post, const std::string& school);
 
