@@ -21,11 +21,22 @@ void MainWindow::RegisterCareerCommands() {
     }
     Show<JobsScreen>();
   });
-  On("mnuStaffHireCoaches", [this] { Show<StaffScreen>(true); });
+  // The hire screens belong to the offseason; the gate closes their entries
+  // with the season, and a hire screen asked for out of its stage says why.
+  const auto hiring = [this](const std::function<void()>& show) {
+    if (const auto closed = HiringClosed(session_)) {
+      session_.ui.Message(*closed);
+      return;
+    }
+    show();
+  };
+  On("mnuStaffHireCoaches", [this, hiring] { hiring([this] { Show<StaffScreen>(true); }); });
   On("mnuStaffViewScout", [this] { Show<StaffPostScreen>(Post::kScout, false); });
-  On("mnuStaffHireScout", [this] { Show<StaffPostScreen>(Post::kScout, true); });
+  On("mnuStaffHireScout",
+     [this, hiring] { hiring([this] { Show<StaffPostScreen>(Post::kScout, true); }); });
   On("mnuStaffViewTrainer", [this] { Show<StaffPostScreen>(Post::kTrainer, false); });
-  On("mnuStaffHireTrainer", [this] { Show<StaffPostScreen>(Post::kTrainer, true); });
+  On("mnuStaffHireTrainer",
+     [this, hiring] { hiring([this] { Show<StaffPostScreen>(Post::kTrainer, true); }); });
 }
 
 }  // namespace courtmere::app

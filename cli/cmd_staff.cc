@@ -89,11 +89,7 @@ struct MarketOptions {
 Session& StartMarket(CliContext& context, std::string& school) {
   Session& session = context.StartSession();
   school = RequireDynasty(session);
-  if (!HiringOpen(session)) {
-    Refuse(fmt::format(
-        "Staff can only be hired or fired in the stage Post Training; the dynasty stands in {}.",
-        session.config.Stage));
-  }
+  if (const auto closed = HiringClosed(session)) Refuse(*closed);
   return session;
 }
 

@@ -146,8 +146,11 @@ std::optional<std::string> StaffIncomplete(Store& store, Post post, const std::s
   return std::nullopt;
 }
 
-bool HiringOpen(const Session& session) {
-  return session.config.Stage == kStagePostTraining;
+std::optional<std::string> HiringClosed(const Session& session) {
+  if (session.config.Stage == kStagePostTraining) return std::nullopt;
+  return fmt::format(
+      "Staff can only be hired or fired in the stage Post Training; the dynasty stands in {}.",
+      session.config.Stage);
 }
 
 }  // namespace courtmere

@@ -50,8 +50,8 @@ bool HireStaff(Session& session, Post post, int id);
 // recruiting points. Nothing when it may close.
 std::optional<std::string> StaffIncomplete(Store& store, Post post, const std::string& school);
 
-// Whether the staff market is open: the hire screens open in "Post Training"
-// and close when the season starts.
-bool HiringOpen(const Session& session);
+// Why the staff market is closed now, or nothing when it is open: the hire
+// screens open in "Post Training" and close when the season starts.
+std::optional<std::string> HiringClosed(const Session& session);
 
 }  // namespace courtmere

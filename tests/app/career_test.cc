@@ -154,8 +154,16 @@ class CareerTest : public QObject {
     dynasty_->SetCalendar(kStageSeason, 3);
     window_->RunGate();
     QVERIFY(!window_->Entry("mnuStaffHireTrainer")->isEnabled());
+    window_->RunCommand("mnuStaffHireTrainer");
+    QCOMPARE(dynasty_->ui().Messages().back(),
+             std::string("Staff can only be hired or fired in the stage Post Training; the "
+                         "dynasty stands in Season."));
+    window_->CloseScreens();
     window_->RunCommand("mnuStaffViewTrainer");
-    QTRY_VERIFY(Find<StaffPostScreen>(*window_));
+    auto* trainer = Find<StaffPostScreen>(*window_);
+    QVERIFY(trainer && !trainer->Candidates());
+    QCOMPARE(trainer->Caption(), QString("St. John's Head Trainer"));
+    QCOMPARE(trainer->Grid()->Model()->rowCount(), 1);
   }
 
  private:
