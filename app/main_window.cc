@@ -185,6 +185,7 @@ void MainWindow::RegisterCommands() {
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
   RegisterRecruitCommands();
+  RegisterCareerCommands();
 }
 
 void MainWindow::On(const char* entry, std::function<void()> command) {

@@ -101,6 +101,10 @@ class Tour {
     Snap("home");
     Open("mnuNonConfPre", "nonconf_pre");
     Open("mnuNonConfOther", "nonconf_other");
+    Open("mnuStaffHireCoaches", "staff_hire");
+    Open("mnuStaffHireScout", "scout_hire");
+    Open("mnuStaffHireTrainer", "trainer_hire");
+    Open("mnuManagementPerformance", "coach_review");
     window_->CloseScreens();
     window_->RunCommand("mnuOffSeasonStart");
     Snap("season_start");

@@ -2,11 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/coach_roles_screen.h"
 #include "app/grid_model.h"
+#include "career/staff_market.h"
 #include "screens/coaching_staff.h"
 #include "store/session.h"
 
@@ -20,35 +22,20 @@ QStringList Headings() {
   return headings;
 }
 
-}  // namespace
-
-StaffScreen::StaffScreen(Session& session, ScreenHost& host, QWidget* parent)
-    : Screen(session, host, parent),
-      grid_(new GridView(new GridModel(Headings(), this), false, this)),
-      roles_(AddButton("cmdRoles", "Change Roles", [this] { ChangeRoles(); })) {
-  setObjectName("frmStaff");
-  grid_->setObjectName("grdStaff");
-  grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(roles_);
-  buttons->addWidget(AddButton("cmdExit", "Exit", [this] { CloseWindow(); }));
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(grid_, 1);
-  layout->addLayout(buttons);
-  resize(860, 220);
-  Refresh();
+GridView* StaffGrid(QWidget* parent, const char* name) {
+  auto* grid = new GridView(new GridModel(Headings(), parent), false, parent);
+  grid->setObjectName(name);
+  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  grid->setSelectionMode(QAbstractItemView::SingleSelection);
+  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  return grid;
 }
 
-QString StaffScreen::Caption() const {
-  return ToQString(session_.humanSchool + " Coaching Staff");
-}
-
-void StaffScreen::Refresh() {
+void Fill(GridView* grid, const std::vector<StaffRow>& staff) {
   std::vector<GridRow> rows;
   std::vector<int> ids;
-  for (const StaffRow& r : LoadCoachingStaff(session_.Db(), session_.humanSchool).Rows) {
+  for (const StaffRow& r : staff) {
     GridRow row;
     for (size_t i = 0; i < r.Cells.size(); ++i) {
       const bool number = i == 1 || i >= 11;
@@ -57,11 +44,76 @@ void StaffScreen::Refresh() {
     rows.push_back(std::move(row));
     ids.push_back(r.CoachId);
   }
-  grid_->Model()->SetRows(std::move(rows), std::move(ids));
+  grid->Model()->SetRows(std::move(rows), std::move(ids));
+}
+
+// The Id of the chosen line; 0 for none.
+int Chosen(GridView* grid) {
+  const int row = grid->SelectedRow();
+  return row < 0 ? 0 : grid->Model()->Key(row);
+}
+
+}  // namespace
+
+StaffScreen::StaffScreen(Session& session, ScreenHost& host, bool hire, QWidget* parent)
+    : Screen(session, host, parent),
+      hire_(hire),
+      grid_(StaffGrid(this, "grdStaff")),
+      roles_(AddButton("cmdRoles", "Change Roles", [this] { ChangeRoles(); })) {
+  setObjectName("frmStaff");
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(grid_, 1);
+  if (hire_) {
+    candidates_ = StaffGrid(this, "grdCandidates");
+    layout->addWidget(new QLabel("Coaches interested in your program:", this));
+    layout->addWidget(candidates_, 1);
+    buttons->addWidget(AddButton("cmdFire", "Fire", [this] { Fire(); }));
+    buttons->addWidget(AddButton("cmdHire", "Hire", [this] { Hire(); }));
+  }
+  buttons->addWidget(roles_);
+  buttons->addWidget(AddButton("cmdExit", "Exit", [this] { Exit(); }));
+  layout->addLayout(buttons);
+  resize(860, hire_ ? 380 : 220);
+  Refresh();
+}
+
+QString StaffScreen::Caption() const {
+  return ToQString(session_.humanSchool + " Coaching Staff");
+}
+
+QString StaffScreen::Key() const {
+  return hire_ ? "StaffScreen/hire" : "StaffScreen";
+}
+
+void StaffScreen::Refresh() {
+  Fill(grid_, LoadCoachingStaff(session_.Db(), session_.humanSchool).Rows);
+  if (candidates_) Fill(candidates_, LoadCoachCandidates(session_.Db(), session_.humanSchool));
 }
 
 void StaffScreen::ChangeRoles() {
   host_.OpenScreen(new CoachRolesScreen(session_, host_));
+}
+
+void StaffScreen::Fire() {
+  const int id = Chosen(grid_);
+  if (id != 0 && FireStaff(session_, Post::kCoach, id)) host_.StoreChanged();
+}
+
+void StaffScreen::Hire() {
+  const int id = Chosen(candidates_);
+  if (id != 0 && HireStaff(session_, Post::kCoach, id)) host_.StoreChanged();
+}
+
+void StaffScreen::Exit() {
+  if (hire_) {
+    if (const auto why = StaffIncomplete(session_.Db(), Post::kCoach, session_.humanSchool)) {
+      session_.ui.Message(*why);
+      return;
+    }
+  }
+  CloseWindow();
 }
 
 }  // namespace courtmere::app

@@ -71,5 +71,8 @@ void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
 void AddEndSeasonCommand(CLI::App& app, CliContext& context);
 void AddSigningsCommands(CLI::App& app, CliContext& context);
+void AddReviewCommand(CLI::App& app, CliContext& context);
+void AddJobsCommand(CLI::App& app, CliContext& context);
+void AddTakeJobCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

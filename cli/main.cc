@@ -63,6 +63,9 @@ int main(int argc, char** argv) {
   courtmere::cli::AddRecruitingCommand(app, context);
   courtmere::cli::AddEndSeasonCommand(app, context);
   courtmere::cli::AddSigningsCommands(app, context);
+  courtmere::cli::AddReviewCommand(app, context);
+  courtmere::cli::AddJobsCommand(app, context);
+  courtmere::cli::AddTakeJobCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

@@ -1,5 +1,6 @@
 #include "screens/coaching_staff.h"
 
+#include "career/staff_market.h"
 #include "store/store.h"
 
 namespace courtmere {
@@ -12,14 +13,17 @@ std::string StaffLetter(int rating) {
   return "F";
 }
 
-CoachingStaff LoadCoachingStaff(Store& store, const std::string& school) {
-  CoachingStaff staff;
-  staff.Caption = school + " Coaching Staff";
+namespace {
+
+// The rows of Coach whose Team matches `team` under the query's comparison.
+std::vector<StaffRow> CoachRows(Store& store, const char* where, const std::string& team) {
+  std::vector<StaffRow> rows;
   for (Rows r = store.Query(
-           "SELECT Id, Name, Salary, PGDev, SGDev, SFDev, PFDev, CDev, OffCoach, DefCoach, "
-           "RecruitAbility, RecruitRegion, OffPoints, DefPoints, RecPoints FROM Coach "
-           "WHERE Team = ? ORDER BY rowid",
-           school);
+           std::string("SELECT Id, Name, Salary, PGDev, SGDev, SFDev, PFDev, CDev, OffCoach, "
+                       "DefCoach, RecruitAbility, RecruitRegion, OffPoints, DefPoints, RecPoints "
+                       "FROM Coach WHERE ") +
+               where + " ORDER BY rowid",
+           team);
        r.Next();) {
     StaffRow row;
     row.CoachId = r.Int(0);
@@ -28,9 +32,22 @@ CoachingStaff LoadCoachingStaff(Store& store, const std::string& school) {
     for (int i = 3; i <= 10; ++i) row.Cells[static_cast<size_t>(i - 1)] = StaffLetter(r.Int(i));
     row.Cells[10] = r.Text(11);
     for (int i = 12; i <= 14; ++i) row.Cells[static_cast<size_t>(i - 1)] = std::to_string(r.Int(i));
-    staff.Rows.push_back(std::move(row));
+    rows.push_back(std::move(row));
   }
+  return rows;
+}
+
+}  // namespace
+
+CoachingStaff LoadCoachingStaff(Store& store, const std::string& school) {
+  CoachingStaff staff;
+  staff.Caption = school + " Coaching Staff";
+  staff.Rows = CoachRows(store, "Team = ?", school);
   return staff;
+}
+
+std::vector<StaffRow> LoadCoachCandidates(Store& store, const std::string& school) {
+  return CoachRows(store, "Team = ? COLLATE NOCASE", CandidateTeam(school));
 }
 
 }  // namespace courtmere

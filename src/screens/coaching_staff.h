@@ -1,5 +1,5 @@
-// frmStaff in view mode: the user's assistant coaches with their skills as
-// letters and their roles as points.
+// frmStaff: the user's assistant coaches with their skills as letters and
+// their roles as points, and in hire mode the coaches looking at his school.
 #pragma once
 
 #include <array>
@@ -30,5 +30,8 @@ struct CoachingStaff {
 };
 
 CoachingStaff LoadCoachingStaff(Store& store, const std::string& school);
+
+// The coaches looking at the school: the hire screen's lower list.
+std::vector<StaffRow> LoadCoachCandidates(Store& store, const std::string& school);
 
 }  // namespace courtmere

@@ -182,6 +182,8 @@ void UpgradeStore(Session& session, const PlayerGrader& gradeAllPlayers) {
     store.ExecScript(SchemaStatement("CREATE TABLE RankHistory ("));
   }
   RetypeWeekDecision(store);
+  // Saves made before a change of job was kept for the year.
+  AddColumnIfMissing(store, "HeadCoach", "JobYear", "INTEGER DEFAULT 0");
   if (!HasOldLayout(store)) return;
   if (!gradeAllPlayers) {
     throw StoreError("A store of the old layout needs its players graded anew");

@@ -13,8 +13,8 @@ run 0 --seed 3 start-season
 
 run 0 staff
 expect "St. John's Coaching Staff"
-expect "Head Scout: "
-mapfile -t coaches < <(awk '$1 ~ /^[0-9]+$/ { print $1 }' <<<"$out")
+expect "St. John's Head Scout"
+mapfile -t coaches < <(awk '/^(Candidates)?$/ { exit } $1 ~ /^[0-9]+$/ { print $1 }' <<<"$out")
 ((${#coaches[@]} == 3)) || fail "expected three coaches in:
 $out"
 
