@@ -180,6 +180,7 @@ void MainWindow::RegisterCommands() {
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
+  RegisterOffseasonCommands();
   RegisterRecruitCommands();
 }
 

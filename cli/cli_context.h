@@ -69,5 +69,12 @@ void AddLineupCommand(CLI::App& app, CliContext& context);
 void AddRecruitsCommand(CLI::App& app, CliContext& context);
 void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
+void AddDraftCommand(CLI::App& app, CliContext& context);
+void AddBeginOffseasonCommand(CLI::App& app, CliContext& context);
+void AddTrainingCommand(CLI::App& app, CliContext& context);
+void AddTrainCommand(CLI::App& app, CliContext& context);
+void AddDevelopmentCommand(CLI::App& app, CliContext& context);
+void AddDynastyCommand(CLI::App& app, CliContext& context);
+void AddBenchYearCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli
