@@ -1,12 +1,15 @@
 // courtmere-cli bench-year: with a fixed seed, from a blank store, a new
 // dynasty and three whole years (season, End Season, draft, offseason,
 // training, Start Season), box scores off. Prints each year's seconds and
-// the store's size, and last the signature of every player row, the draft
+// the store's size, the time each stage took (wall and processor), and last the signature of every player row, the draft
 // and the schedule at the end, the years and the seconds of the three.
 #include <fmt/format.h>
 
 #include <chrono>
+#include <ctime>
 #include <filesystem>
+#include <map>
+#include <string>
 #include <stdexcept>
 
 #include "bench_support.h"
@@ -59,6 +62,30 @@ void SignStore(Store& store, Signature& signature) {
   }
 }
 
+struct StageTime {
+  double wall = 0;
+  double processor = 0;
+};
+
+// One command of the year, its time added to the stage it started from.
+void TimedStage(SeasonRun& run, std::map<std::string, StageTime>& stages) {
+  const std::string stage = run.session.config.Stage;
+  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t cpu = std::clock();
+  if (!AdvanceStage(run, NoCareerSteps())) throw std::runtime_error("stopped in " + stage);
+  StageTime& time = stages[stage];
+  time.wall += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  time.processor += static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
+}
+
+// The year as PlayYear runs it, stage by stage.
+void PlayTimedYear(SeasonRun& run, std::map<std::string, StageTime>& stages) {
+  const Config& c = run.session.config;
+  if (c.Stage == kStagePostTraining) TimedStage(run, stages);
+  while (c.Stage != kStagePostTraining) TimedStage(run, stages);
+  TimedStage(run, stages);
+}
+
 void RunBenchYear(CliContext& context) {
   ScratchFolder folder;
   ScriptedUi ui;
@@ -69,14 +96,18 @@ void RunBenchYear(CliContext& context) {
   run.recruiting = &recruiting;
   run.cpuSetsUserTeam = true;
   double total = 0;
+  std::map<std::string, StageTime> stages;
   for (int y = 1; y <= kYears; ++y) {
     const auto start = std::chrono::steady_clock::now();
-    const YearSummary summary = PlayYear(run, NoCareerSteps());
+    PlayTimedYear(run, stages);
     const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     total += seconds;
-    fmt::print("year {} ({}): {:.3f} s, champion {}, store {} KB\n", y, summary.year, seconds,
-               summary.champion, std::filesystem::file_size(session.folder.Store()) / 1024);
+    fmt::print("year {} ({}): {:.3f} s, store {} KB\n", y, session.config.CurrYear, seconds,
+               std::filesystem::file_size(session.folder.Store()) / 1024);
+  }
+  for (const auto& [stage, time] : stages) {
+    fmt::print("  {:<16} {:7.3f} s wall {:7.3f} s processor\n", stage, time.wall, time.processor);
   }
   Signature signature;
   SignStore(session.Db(), signature);
