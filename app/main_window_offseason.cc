@@ -21,9 +21,14 @@ void MainWindow::RegisterOffseasonCommands() {
     if (drafted) Show<OffseasonListScreen>(Kind::kDraft);
   });
   On("mnuProgressBeginOffseason", [this] {
-    RunFlow([this] {
-      if (BeginOffseason(session_) == OffseasonBegin::kBegun) LoadSeasonStats(session_);
+    bool begun = false;
+    RunFlow([this, &begun] {
+      begun = BeginOffseason(session_) == OffseasonBegin::kBegun;
+      if (begun) LoadSeasonStats(session_);
     });
+    // The season's run, with its recruiting period and caption, is over;
+    // the next season starts a fresh one.
+    if (begun) EndSeasonRun();
   });
   On("mnuOffSeasonTrain", [this] { Show<TrainingScreen>(); });
   On("mnuOffSeasonTrainPlayers", [this] {

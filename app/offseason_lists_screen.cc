@@ -26,12 +26,14 @@ QStringList Headings(OffseasonListScreen::Kind kind) {
     case OffseasonListScreen::Kind::kDevelopment:
       break;
   }
-  return {"Name",     "Pos.",         "Year",         "Athletic", "Scoring", "Shooting",
-          "Outside",  "Rebounding",   "Per. Defense", "Post Defense",         "Handling",
-          "Passing",  "Study"};
+  return {"Name",     "Pos.",    "Year",       "Athletic",     "Scoring",
+          "Shooting", "Outside", "Rebounding", "Per. Defense", "Post Defense",
+          "Handling", "Passing", "Study"};
 }
 
-GridCell Average(double value) { return GridCell::Number(value, fmt::format("{:.1f}", value)); }
+GridCell Average(double value) {
+  return GridCell::Number(value, fmt::format("{:.1f}", value));
+}
 
 }  // namespace
 
@@ -108,7 +110,8 @@ void OffseasonListScreen::ShowDevelopment() {
   for (const DevelopmentLine& line : DevelopmentReport(session_.Db(), session_.humanSchool)) {
     GridRow row = {GridCell::Text(line.Name), GridCell::Text(PositionName(line.PlayerPosition)),
                    GridCell::Text(line.PlayerYear)};
-    for (const GradeChange& g : line.grades) row.push_back(GridCell::Text(g.before + " > " + g.after));
+    for (const GradeChange& g : line.grades)
+      row.push_back(GridCell::Text(g.before + " > " + g.after));
     row.push_back(GridCell::Text(line.study));
     rows.push_back(std::move(row));
     ids.push_back(line.Id);

@@ -17,9 +17,9 @@ namespace courtmere::app {
 
 namespace {
 
-constexpr const char* kGradeLabels[] = {"Athletic", "Scoring",      "Shooting",
-                                        "Outside",  "Rebounding",   "Per. Defense",
-                                        "Post Defense", "Handling", "Passing"};
+constexpr const char* kGradeLabels[] = {"Athletic",     "Scoring",    "Shooting",
+                                        "Outside",      "Rebounding", "Per. Defense",
+                                        "Post Defense", "Handling",   "Passing"};
 
 }  // namespace
 
@@ -36,7 +36,8 @@ TrainingScreen::TrainingScreen(Session& session, ScreenHost& host, QWidget* pare
   for (int i = 0; i < kTrainingSkills; ++i) {
     auto* list = new QComboBox(this);
     list->setObjectName(QString("cmb") + kTrainingSkillNames[i].column);
-    for (int points = 0; points <= kMostPointsPerSkill; ++points) list->addItem(QString::number(points));
+    for (int points = 0; points <= kMostPointsPerSkill; ++points)
+      list->addItem(QString::number(points));
     connect(list, &QComboBox::currentIndexChanged, this, [this] { UpdateRemaining(); });
     lists_[i] = list;
     form->addRow(kTrainingSkillNames[i].label, list);
@@ -75,8 +76,8 @@ void TrainingScreen::ShowPlayer() {
     return;
   }
   const TrainingPlayer& p = roster_[static_cast<size_t>(i)];
-  std::string text = fmt::format("{}, {}, GPA {:.2f}\n", PositionName(p.PlayerPosition),
-                                 p.PlayerYear, p.GPA);
+  std::string text =
+      fmt::format("{}, {}, GPA {:.2f}\n", PositionName(p.PlayerPosition), p.PlayerYear, p.GPA);
   for (size_t g = 0; g < p.grades.size() && g < std::size(kGradeLabels); ++g) {
     text += fmt::format("{} {}   ", kGradeLabels[g], p.grades[g]);
   }

@@ -21,9 +21,9 @@ void RunBeginOffseason(CliContext& context) {
       store.ScalarInt("SELECT count(*) FROM Player WHERE NBAFlag = 1 AND Team = ?", school)
           .value_or(0);
   if (BeginOffseason(session) != OffseasonBegin::kBegun) throw Refusal{};
-  fmt::print("{} players left college ({} of {}); {} players remain at {}\n", leaving, ownLeaving,
-             school, store.ScalarInt("SELECT count(*) FROM Player WHERE Team = ?", school).value_or(0),
-             school);
+  fmt::print(
+      "{} players left college ({} of {}); {} players remain at {}\n", leaving, ownLeaving, school,
+      store.ScalarInt("SELECT count(*) FROM Player WHERE Team = ?", school).value_or(0), school);
   fmt::print("Stage {}\n", session.config.Stage);
 }
 

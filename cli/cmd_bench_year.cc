@@ -1,16 +1,16 @@
 // courtmere-cli bench-year: with a fixed seed, from a blank store, a new
 // dynasty and three whole years (season, End Season, draft, offseason,
 // training, Start Season), box scores off. Prints each year's seconds and
-// the store's size, the time each stage took (wall and processor), and last the signature of every player row, the draft
-// and the schedule at the end, the years and the seconds of the three.
+// the store's size, the time each stage took (wall and processor), and last the signature of every
+// player row, the draft and the schedule at the end, the years and the seconds of the three.
 #include <fmt/format.h>
 
 #include <chrono>
 #include <ctime>
 #include <filesystem>
 #include <map>
-#include <string>
 #include <stdexcept>
+#include <string>
 
 #include "bench_support.h"
 #include "cli_context.h"
@@ -55,8 +55,8 @@ void SignStore(Store& store, Signature& signature) {
   for (Rows r = store.Query("SELECT Pick, Team, Name FROM NBADraft ORDER BY Pick"); r.Next();) {
     signature.Add(fmt::format("{} {} {}", r.Int(0), r.Text(1), r.Text(2)));
   }
-  for (Rows r = store.Query(
-           "SELECT GameNo, HomeTeam, AwayTeam FROM NonConfSchedule ORDER BY GameNo");
+  for (Rows r =
+           store.Query("SELECT GameNo, HomeTeam, AwayTeam FROM NonConfSchedule ORDER BY GameNo");
        r.Next();) {
     signature.Add(fmt::format("{} {} {}", r.Int(0), r.Text(1), r.Text(2)));
   }

@@ -20,7 +20,8 @@ void RunDevelopment(CliContext& context) {
   table.AddColumn("Pos", "", TextTable::kLeft);
   table.AddColumn("Year", "", TextTable::kLeft);
   if (!lines.empty()) {
-    for (const GradeChange& g : lines.front().grades) table.AddColumn(g.label, "", TextTable::kLeft);
+    for (const GradeChange& g : lines.front().grades)
+      table.AddColumn(g.label, "", TextTable::kLeft);
   }
   table.AddColumn("Study", "", TextTable::kLeft);
   for (const DevelopmentLine& line : lines) {

@@ -37,8 +37,8 @@ void RunDynasty(CliContext& context, int years) {
     context.ui.EndRun();
     fmt::print("{}: champion {}; {} {}-{}; class rank {}\n", summary.year,
                summary.champion.empty() ? "-" : summary.champion, school, summary.wins,
-               summary.losses, summary.classRank == 0 ? std::string("-")
-                                                      : std::to_string(summary.classRank));
+               summary.losses,
+               summary.classRank == 0 ? std::string("-") : std::to_string(summary.classRank));
     std::fflush(stdout);
   }
   const Config& c = session.config;

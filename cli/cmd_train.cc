@@ -20,15 +20,16 @@ void RunTrain(CliContext& context) {
       store.ScalarInt("SELECT count(*) FROM Recruit WHERE TeamChoice = ?", school).value_or(0);
   if (!TrainPlayers(session, ToolCareerSteps())) throw Refusal{};
   fmt::print("Players trained; {} signed recruit(s) joined {}, which has {} players\n", signings,
-             school, store.ScalarInt("SELECT count(*) FROM Player WHERE Team = ?", school).value_or(0));
+             school,
+             store.ScalarInt("SELECT count(*) FROM Player WHERE Team = ?", school).value_or(0));
   fmt::print("Stage {}; `development` shows the report\n", session.config.Stage);
 }
 
 }  // namespace
 
 void AddTrainCommand(CLI::App& app, CliContext& context) {
-  CLI::App* cmd = app.add_subcommand(
-      "train", "Train Players (Off Season > Train Players), answering Yes");
+  CLI::App* cmd =
+      app.add_subcommand("train", "Train Players (Off Season > Train Players), answering Yes");
   cmd->callback([&context] { RunTrain(context); });
 }
 

@@ -58,7 +58,8 @@ void PrintRoster(const std::vector<TrainingPlayer>& roster) {
   table.AddColumn("Name", "", TextTable::kLeft);
   table.AddColumn("Pos", "", TextTable::kLeft);
   table.AddColumn("Year", "", TextTable::kLeft);
-  for (const auto& skill : kTrainingSkillNames) table.AddColumn(skill.column, "", TextTable::kRight);
+  for (const auto& skill : kTrainingSkillNames)
+    table.AddColumn(skill.column, "", TextTable::kRight);
   table.AddColumn("Left", "", TextTable::kRight);
   for (const TrainingPlayer& p : roster) {
     std::vector<std::string> cells = {std::to_string(p.Id), p.Name, PositionName(p.PlayerPosition),

@@ -13,7 +13,9 @@ void RequireOffseasonStage(Session& session, const char* stage, const char* comm
   if (!RequireStage(session, stage, command)) throw Refusal{};
 }
 
-CareerSteps& ToolCareerSteps() { return NoCareerSteps(); }
+CareerSteps& ToolCareerSteps() {
+  return NoCareerSteps();
+}
 
 std::string DraftTable(Store& store) {
   TextTable table;

@@ -25,6 +25,10 @@ void RemoveLeavers(Store& store) {
     store.Exec("DELETE FROM PlayerYearStats WHERE PlayerId = ?", id);
     store.Exec("DELETE FROM TrainPlayer WHERE PlayerId = ?", id);
   }
+  // Design decision: a development report row goes with its player (a
+  // leaver, or a man cut from a roster), so that the store doesn't grow
+  // year after year with rows nobody can see.
+  store.Exec("DELETE FROM Development WHERE PlayerId NOT IN (SELECT Id FROM Player)");
 }
 
 void ClearSeasonFigures(Store& store) {
@@ -45,7 +49,9 @@ void RemoveLeaversAndResetSeason(Session& session) {
   session.ui.ShowProgress("Removing Ineligible Players");
   RemoveLeavers(store);
   int year = session.config.CurrYear;
-  if (year == 0) year = static_cast<int>(store.ScalarInt("SELECT CurrYear FROM Config WHERE IdConfig = 0").value_or(0));
+  if (year == 0)
+    year = static_cast<int>(
+        store.ScalarInt("SELECT CurrYear FROM Config WHERE IdConfig = 0").value_or(0));
   store.Exec("DELETE FROM PlayerYearStats WHERE Year = ?", year - kYearsOfSeasonLines);
   ClearSeasonFigures(store);
   store.Exec("UPDATE Player SET Suspended = 0 WHERE Suspended > 0");

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "people/grading.h"
+#include "people/player_writer.h"
 #include "people/rating.h"
 #include "platform/numeric.h"
 #include "platform/rng.h"
-#include "people/player_writer.h"
 #include "store/session.h"
 
 namespace courtmere {
@@ -28,7 +28,9 @@ double SlowCoachTerm(Rng& rng, int development) {
   return development / (Int(rng.Rnd() * 20 + 10) * 1.5);
 }
 
-void Cap(int& rating, int most) { rating = std::min(rating, most); }
+void Cap(int& rating, int most) {
+  rating = std::min(rating, most);
+}
 
 }  // namespace
 
@@ -39,12 +41,12 @@ void GrowAttributes(Rng& rng, Player& p, const TrainingRow& row, int d) {
     TrainingSkill list;
   };
   static constexpr Trained kSkills[] = {
-      {&Player::Handling, kTrainHandling},     {&Player::Passing, kTrainPassing},
-      {&Player::PerrDefense, kTrainPerDefense}, {&Player::PostDefense, kTrainPostDefense},
-      {&Player::ThreePoint, kTrainThrees},     {&Player::Jumpshot, kTrainShooting},
+      {&Player::Handling, kTrainHandling},       {&Player::Passing, kTrainPassing},
+      {&Player::PerrDefense, kTrainPerDefense},  {&Player::PostDefense, kTrainPostDefense},
+      {&Player::ThreePoint, kTrainThrees},       {&Player::Jumpshot, kTrainShooting},
       {&Player::InScoring, kTrainInsideScoring}, {&Player::OffReb, kTrainRebounding},
-      {&Player::DefReb, kTrainRebounding},     {&Player::Strength, kTrainStrength},
-      {&Player::Quickness, kTrainQuickness},   {&Player::Jumping, kTrainJumping},
+      {&Player::DefReb, kTrainRebounding},       {&Player::Strength, kTrainStrength},
+      {&Player::Quickness, kTrainQuickness},     {&Player::Jumping, kTrainJumping},
   };
   for (const Trained& s : kSkills) p.*s.rating = SkillGain(rng, p.*s.rating, pot, row[s.list], d);
   p.Endurance = CInt(p.Endurance + static_cast<double>(pot) / (25 - row[kTrainEndurance]) +
@@ -59,9 +61,9 @@ void GrowAttributes(Rng& rng, Player& p, const TrainingRow& row, int d) {
 void CapAttributes(Player& p) {
   for (int Player::*rating : std::initializer_list<int Player::*>{
            &Player::Strength, &Player::Quickness, &Player::Jumping, &Player::Intelligence,
-        &Player::OffAware, &Player::DefAware, &Player::Handling, &Player::Passing, &Player::DefReb,
-        &Player::OffReb, &Player::PerrDefense, &Player::PostDefense, &Player::InScoring,
-        &Player::Jumpshot, &Player::ThreePoint}) {
+           &Player::OffAware, &Player::DefAware, &Player::Handling, &Player::Passing,
+           &Player::DefReb, &Player::OffReb, &Player::PerrDefense, &Player::PostDefense,
+           &Player::InScoring, &Player::Jumpshot, &Player::ThreePoint}) {
     Cap(p.*rating, 100);
   }
   Cap(p.Endurance, kMostEndurance);
@@ -115,9 +117,9 @@ bool DevelopPlayer(Session& session, Player& p, int redshirt, int development, i
   // Design decision: background players keep no training rows; they train
   // by the computer's regimen for their position, so that they too grow
   // and move up a class, and their seniors leave the field.
-  const std::optional<TrainingRow> row =
-      background == 1 ? ComputerTrainingRow(p.PlayerPosition, p.Intelligence)
-                      : LoadTrainingRow(store, p.Id);
+  const std::optional<TrainingRow> row = background == 1
+                                             ? ComputerTrainingRow(p.PlayerPosition, p.Intelligence)
+                                             : LoadTrainingRow(store, p.Id);
   if (!row) return false;
   GrowAttributes(session.rng, p, *row, development);
   CapAttributes(p);
@@ -150,18 +152,18 @@ void UpdatePlayerRow(Store& store, const Player& p) {
     std::string s = "UPDATE Player SET Intelligence = ?, PlayerYear = ?, NBAFlag = ?";
     for (const char* grade :
          {"AthleticGrade", "ScoreGrade", "ShootingGrade", "OutsideShootGrade", "ReboundGrade",
-          "PerrDefenseGrade", "PostDefenseGrade", "HandlingGrade", "PassingGrade",
-          "PotentialGrade", "Overall", "ScoutOverall"}) {
+          "PerrDefenseGrade", "PostDefenseGrade", "HandlingGrade", "PassingGrade", "PotentialGrade",
+          "Overall", "ScoutOverall"}) {
       s += std::string(", ") + grade + " = ?";
     }
     for (const SkillColumn& skill : kSkillColumns) s += std::string(", ") + skill.name + " = ?";
     return s + " WHERE Id = ?";
   }();
-  std::vector<Value> values{int64_t{p.Intelligence}, p.PlayerYear, int64_t{p.NBAFlag},
-                            p.AthleticGrade,         p.ScoreGrade, p.ShootingGrade,
-                            p.OutsideShootGrade,     p.ReboundGrade, p.PerrDefenseGrade,
+  std::vector<Value> values{int64_t{p.Intelligence}, p.PlayerYear,    int64_t{p.NBAFlag},
+                            p.AthleticGrade,         p.ScoreGrade,    p.ShootingGrade,
+                            p.OutsideShootGrade,     p.ReboundGrade,  p.PerrDefenseGrade,
                             p.PostDefenseGrade,      p.HandlingGrade, p.PassingGrade,
-                            p.PotentialGrade,        p.Overall,    p.ScoutOverall};
+                            p.PotentialGrade,        p.Overall,       p.ScoutOverall};
   for (const SkillColumn& skill : kSkillColumns) values.emplace_back(int64_t{p.*skill.field});
   values.emplace_back(int64_t{p.Id});
   store.ExecValues(sql, values);

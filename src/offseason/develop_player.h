@@ -37,8 +37,7 @@ void AdvanceYear(Player& player, int redshirt);
 // The yearly routine for a Player row (background = 0) or a ScrubPlayer row
 // (background = 1), edited in place; the caller writes it back. Returns
 // false when the player had no regimen and so stayed as he was.
-bool DevelopPlayer(Session& session, Player& player, int redshirt, int development,
-                   int background);
+bool DevelopPlayer(Session& session, Player& player, int redshirt, int development, int background);
 
 // The coaches' value of a school for each position (index 1 PG .. 5 C):
 // the sum of its coaches' development columns over 10, rounded.

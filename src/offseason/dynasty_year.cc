@@ -85,10 +85,11 @@ YearSummary PlayYear(SeasonRun& run, CareerSteps& career) {
     if (session.config.Stage == kStageSeasonOver) ReadRecord(session, summary);
     advance();
     if (session.config.Stage == kStageEndSeason) {
-      summary.classRank = static_cast<int>(
-          session.Db()
-              .ScalarInt("SELECT ClassRank FROM Team WHERE SchoolName = ?", HumanSchool(session.Db()))
-              .value_or(0));
+      summary.classRank =
+          static_cast<int>(session.Db()
+                               .ScalarInt("SELECT ClassRank FROM Team WHERE SchoolName = ?",
+                                          HumanSchool(session.Db()))
+                               .value_or(0));
     }
   }
   advance();

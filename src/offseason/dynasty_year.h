@@ -15,7 +15,7 @@ struct SeasonRun;
 class CareerSteps;
 
 struct YearSummary {
-  int year = 0;  // the season played (the CurrYear it ended with)
+  int year = 0;          // the season played (the CurrYear it ended with)
   std::string champion;  // the NCT's; empty if the final was not played
   int wins = 0;
   int losses = 0;

@@ -58,7 +58,8 @@ void AddAlumnus(Session& session, int pick, const Prospect& p, const std::string
 }  // namespace
 
 double ProspectScore(bool fromHighSchool, double overall, int potential, int reach) {
-  double score = fromHighSchool ? overall * 0.2 + potential * 0.8 : overall * 0.65 + potential * 0.35;
+  double score =
+      fromHighSchool ? overall * 0.2 + potential * 0.8 : overall * 0.65 + potential * 0.35;
   if (reach < 72) {
     score -= 5;
   } else if (reach < 75) {
@@ -134,14 +135,14 @@ void RunDraft(Session& session, CareerSteps& career) {
     const Prospect& p = i < prospects.size() ? prospects[i] : none;
     const std::string& team = PickTeam(order, pick);
     WritePick(store, pick, p, team);
-    if (p.Id != 0 && p.FromHighSchool == 0 && pick <= kFirstRound) AddAlumnus(session, pick, p, team);
+    if (p.Id != 0 && p.FromHighSchool == 0 && pick <= kFirstRound)
+      AddAlumnus(session, pick, p, team);
   }
   if (career.Active()) career.ReviewHeadCoach(session);
   store.Exec("UPDATE Config SET Stage = ? WHERE IdConfig = 0", kStageNbaDraft);
   session.config.Stage = kStageNbaDraft;
-  const bool fired = store.ScalarText("SELECT Team FROM HeadCoach LIMIT 1")
-                         .value_or("")
-                         .rfind("Fired", 0) == 0;
+  const bool fired =
+      store.ScalarText("SELECT Team FROM HeadCoach LIMIT 1").value_or("").rfind("Fired", 0) == 0;
   if (!fired && career.Active()) career.CheckSchoolInterest(session);
   tx.Commit();
   session.ui.HideProgress();

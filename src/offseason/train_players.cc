@@ -59,7 +59,8 @@ void DevelopSchools(Session& session) {
     for (const Trainee& t : Trainees(store, "Team = ?", schools[i])) {
       Player p;
       if (!LoadPlayer(store, t.id, p)) continue;
-      const int position = p.PlayerPosition >= kPG && p.PlayerPosition <= kC ? p.PlayerPosition : kC;
+      const int position =
+          p.PlayerPosition >= kPG && p.PlayerPosition <= kC ? p.PlayerPosition : kC;
       if (DevelopPlayer(session, p, t.redshirt, value[position], 0)) UpdatePlayerRow(store, p);
     }
     session.ui.SetProgress(static_cast<int>(100 * (i + 1) / schools.size()));
@@ -67,7 +68,9 @@ void DevelopSchools(Session& session) {
 }
 
 // The first name: the name up to its first blank.
-std::string FirstName(const std::string& name) { return name.substr(0, name.find(' ')); }
+std::string FirstName(const std::string& name) {
+  return name.substr(0, name.find(' '));
+}
 
 void SetStage(Session& session, const char* stage) {
   session.Db().Exec("UPDATE Config SET Stage = ? WHERE IdConfig = 0", stage);
@@ -84,8 +87,8 @@ void RemoveFreeAgents(Store& store) {
 void AddCoachHistoryRow(Session& session) {
   Store& store = session.Db();
   const auto last = store.ScalarInt("SELECT MAX(Season) FROM CoachHistory");
-  store.Exec("INSERT INTO CoachHistory (Season, Year, Team) VALUES (?, ?, ?)",
-             last ? *last + 1 : 1, session.config.CurrYear, HumanSchool(store));
+  store.Exec("INSERT INTO CoachHistory (Season, Year, Team) VALUES (?, ?, ?)", last ? *last + 1 : 1,
+             session.config.CurrYear, HumanSchool(store));
 }
 
 void AddStaffCandidates(Session& session) {
@@ -165,7 +168,9 @@ void DevelopJuniorCollegeProspects(Session& session) {
   }
 }
 
-int WrappedPlayerId(int nextId) { return nextId > kIdWrap ? 1 : nextId; }
+int WrappedPlayerId(int nextId) {
+  return nextId > kIdWrap ? 1 : nextId;
+}
 
 void RunTraining(Session& session, CareerSteps& career) {
   Store& store = session.Db();

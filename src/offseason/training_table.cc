@@ -75,8 +75,8 @@ int TrainingPointsUsed(const TrainingRow& row) {
 }
 
 std::optional<TrainingRow> LoadTrainingRow(Store& store, int playerId) {
-  Rows rows =
-      store.Query("SELECT PlayerId" + ColumnList() + " FROM TrainPlayer WHERE PlayerId = ?", playerId);
+  Rows rows = store.Query("SELECT PlayerId" + ColumnList() + " FROM TrainPlayer WHERE PlayerId = ?",
+                          playerId);
   if (!rows.Next()) return std::nullopt;
   TrainingRow row;
   for (int i = 0; i < kTrainingSkills; ++i) row[i] = rows.Int(i + 1);
@@ -104,7 +104,8 @@ TrainingRow ComputerTrainingRow(int position, int intelligence) {
 }
 
 void SetTrainingPoints(Store& store, const Player& player) {
-  SaveTrainingRow(store, player.Id, ComputerTrainingRow(player.PlayerPosition, player.Intelligence));
+  SaveTrainingRow(store, player.Id,
+                  ComputerTrainingRow(player.PlayerPosition, player.Intelligence));
 }
 
 void TrainCPUPlayers(Store& store) {

@@ -28,9 +28,9 @@ const char* ByIdMod3(int id, const char* one, const char* two, const char* zero)
 std::string CollegeLeaverReason(const std::string& name, int id, double gpa, double overall) {
   const char* text = nullptr;
   if (gpa < 2) {
-    text = ByIdMod3(id, "is simply sick of attending class.",
-                    "is in danger of failing some core classes.",
-                    "doesn't feel he'll ever graduate.");
+    text =
+        ByIdMod3(id, "is simply sick of attending class.",
+                 "is in danger of failing some core classes.", "doesn't feel he'll ever graduate.");
   } else if (overall > 70) {
     text = ByIdMod3(id, "feels he's ready to contribute at the next level.",
                     "is looking for a bigger challenge than college.",
@@ -88,6 +88,8 @@ std::vector<DraftPick> ShowDraft(Store& store) {
   return picks;
 }
 
-std::string DraftTitle(int year) { return std::to_string(year) + " NBA Draft"; }
+std::string DraftTitle(int year) {
+  return std::to_string(year) + " NBA Draft";
+}
 
 }  // namespace courtmere

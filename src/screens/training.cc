@@ -21,7 +21,8 @@ std::vector<TrainingPlayer> TrainingRoster(Store& store, const std::string& scho
     for (int c = 5; c <= 13; ++c) p.grades.push_back(r.Text(c));
     list.push_back(std::move(p));
   }
-  for (TrainingPlayer& p : list) p.points = LoadTrainingRow(store, p.Id).value_or(DefaultTrainingRow());
+  for (TrainingPlayer& p : list)
+    p.points = LoadTrainingRow(store, p.Id).value_or(DefaultTrainingRow());
   return list;
 }
 

@@ -24,11 +24,13 @@ class BeginOffseasonTest : public ::testing::Test {
     AddPlayerRow(4, "Freshman", 0);
     store().Exec("UPDATE Player SET Suspended = 1 WHERE Id = 4");
     for (int id = 1; id <= 4; ++id) {
-      store().Exec("INSERT INTO PlayerStats (Id, Games, Points, PPG, AwardScore) VALUES (?, 3, 30, "
-                   "10.0, 5.0)",
-                   id);
+      store().Exec(
+          "INSERT INTO PlayerStats (Id, Games, Points, PPG, AwardScore) VALUES (?, 3, 30, "
+          "10.0, 5.0)",
+          id);
       store().Exec("INSERT INTO CareerPlayerStats (Id) VALUES (?)", id);
       store().Exec("INSERT INTO TrainPlayer (PlayerId) VALUES (?)", id);
+      store().Exec("INSERT INTO Development (PlayerId) VALUES (?)", id);
       for (int year = 2001; year <= 2006; ++year) {
         store().Exec("INSERT INTO PlayerYearStats (PlayerId, Year) VALUES (?, ?)", id, year);
       }
@@ -67,6 +69,7 @@ TEST_F(BeginOffseasonTest, LeaversGoAndTheSeasonStartsAgainAtZero) {
     EXPECT_EQ(Count(std::string("SELECT count(*) FROM ") + table), 2) << table;
   }
   EXPECT_EQ(Count("SELECT count(*) FROM TrainPlayer"), 2);
+  EXPECT_EQ(Count("SELECT group_concat(PlayerId, '') FROM Development"), 34);
   EXPECT_EQ(Count("SELECT count(*) FROM PlayerYearStats WHERE PlayerId IN (1, 2)"), 0);
   // 2002 (2006 - 4) goes; 2001 was gone a year ago in a running dynasty.
   EXPECT_EQ(Count("SELECT count(*) FROM PlayerYearStats WHERE Year = 2002"), 0);

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "league/dynasty_fixture.h"
+#include "offseason/train_players.h"
 #include "people/player_writer.h"
 #include "platform/rng.h"
-#include "offseason/train_players.h"
 
 namespace courtmere::testing {
 namespace {
@@ -26,11 +26,11 @@ TEST(GrowAttributes, PotentialShareGrowsWithTheTrainingPoints) {
   Rng rng(3);
   Player p = Even(50, 75);
   TrainingRow row = DefaultTrainingRow();
-  row[kTrainShooting] = 10;     // 75 / 15 = 5
-  row[kTrainThrees] = 5;        // 75 / 20 = 3.75, rounded to 4
-  row[kTrainHandling] = 0;      // 75 / 25 = 3
-  row[kTrainEndurance] = 10;    // + 5
-  row[kTrainSummerSchool] = 10; // awareness + 75 / 30 = 2.5, rounded to even 2
+  row[kTrainShooting] = 10;      // 75 / 15 = 5
+  row[kTrainThrees] = 5;         // 75 / 20 = 3.75, rounded to 4
+  row[kTrainHandling] = 0;       // 75 / 25 = 3
+  row[kTrainEndurance] = 10;     // + 5
+  row[kTrainSummerSchool] = 10;  // awareness + 75 / 30 = 2.5, rounded to even 2
   GrowAttributes(rng, p, row, 0);
   EXPECT_EQ(p.Jumpshot, 55);
   EXPECT_EQ(p.ThreePoint, 54);

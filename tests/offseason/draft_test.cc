@@ -1,7 +1,5 @@
 // The draft: the prospects' scores and order, the 29 teams' two rounds, the
 // alumni rows of the first round and the stage it leaves.
-#include "offseason/nba_draft.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
@@ -9,6 +7,7 @@
 #include "league/dynasty_fixture.h"
 #include "league/head_coach.h"
 #include "offseason/career_steps.h"
+#include "offseason/nba_draft.h"
 #include "people/player_writer.h"
 
 namespace courtmere::testing {
@@ -62,9 +61,9 @@ class DraftRun : public ::testing::Test {
 };
 
 TEST_F(DraftRun, PicksFollowTheScoresAndTheFirstRoundMakesAlumni) {
-  Leaver(1, "East", 60, 95);      // a recruit: 87, first
-  Leaver(2, "Home U", 80, 80);    // 80
-  Leaver(3, "Away U", 80, 80);    // 80, after player 2
+  Leaver(1, "East", 60, 95);    // a recruit: 87, first
+  Leaver(2, "Home U", 80, 80);  // 80
+  Leaver(3, "Away U", 80, 80);  // 80, after player 2
   for (int id = 10; id < 40; ++id) Leaver(id, "Away U", 60, 60);
   RunDraft(program.session(), NoCareerSteps());
   Store& store = program.store();

@@ -40,7 +40,8 @@ TEST(SignedRecruitsToPlayers, SigningsJoinAndOnlyTheWaitingJuniorCollegeManStays
   SignedRecruitsToPlayers(program.session());
 
   auto text = [&](const char* sql, int id) { return store.ScalarText(sql, id).value_or("-"); };
-  EXPECT_EQ(text("SELECT PlayerYear || ' ' || Team FROM Player WHERE Id = ?", 1), "Freshman Home U");
+  EXPECT_EQ(text("SELECT PlayerYear || ' ' || Team FROM Player WHERE Id = ?", 1),
+            "Freshman Home U");
   EXPECT_EQ(text("SELECT PlayerYear || ' ' || Team FROM Player WHERE Id = ?", 2), "Junior Home U");
   EXPECT_EQ(store.ScalarInt("SELECT count(*) FROM PlayerStats WHERE Id IN (1, 2)"), 2);
   EXPECT_EQ(text("SELECT PlayerYear FROM Player WHERE Id = ?", 3), "-");
