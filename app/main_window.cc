@@ -26,6 +26,7 @@
 #include "app/nonconf_games_screen.h"
 #include "app/options_dialog.h"
 #include "app/player_card_screen.h"
+#include "app/recruit_signings_screen.h"
 #include "app/roster_screen.h"
 #include "app/schedule_screen.h"
 #include "app/score_ticker.h"
@@ -36,6 +37,7 @@
 #include "app/team_info_screen.h"
 #include "app/team_notes_screen.h"
 #include "app/team_stats_screen.h"
+#include "app/test_scores_screen.h"
 #include "app/text_viewer.h"
 #include "app/top25_screen.h"
 #include "league/clear_dynasty.h"
@@ -90,7 +92,7 @@ MainWindow::MainWindow(Session& session, QWidget* parent)
       inbox_(new InboxDock(session, this)),
       ticker_(new ScoreTicker(
           [this](const std::string& kind, const std::string& name) { OpenBracket(kind, name); },
-          this)) {
+          [this] { Show<TestScoresScreen>(); }, this)) {
   setObjectName("frmMDI");
   setWindowIcon(Basketball());
   area_->setBackground(Chalkboard());
@@ -175,6 +177,8 @@ void MainWindow::RegisterCommands() {
   On("mnuSeasonViewGameLogs", [this] { Show<GameLogScreen>(); });
   On("mnuStaffViewCoaches", [this] { Show<StaffScreen>(); });
   On("mnuNewsSuspensions", [this] { Show<SuspensionsScreen>(); });
+  On("mnuNewsTestScores", [this] { Show<TestScoresScreen>(); });
+  On("mnuNewsRecruitSignings", [this] { Show<RecruitSigningsScreen>(); });
   On("mnuHeadlineBubble", [this] { Show<NctBubbleScreen>(); });
   On("mnuSeasonScout", [this] { Show<ScoutScreen>(); });
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });

@@ -13,9 +13,10 @@
 namespace courtmere::app {
 
 ScoreTicker::ScoreTicker(std::function<void(const std::string&, const std::string&)> openBracket,
-                         QWidget* parent)
+                         std::function<void()> openTestScores, QWidget* parent)
     : QDialog(parent, Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint),
       openBracket_(std::move(openBracket)),
+      openTestScores_(std::move(openTestScores)),
       lines_(new QListWidget(this)),
       skip_(new QPushButton("Skip", this)) {
   setObjectName("frmMessageGames");

@@ -22,9 +22,9 @@ class ScoreTicker : public QDialog, public courtmere::SeasonObserver {
 
  public:
   // `openBracket` shows a tournament's bracket: ("Preseason", name) or
-  // ("Conference", name).
+  // ("Conference", name); `openTestScores` the recruits' test scores.
   ScoreTicker(std::function<void(const std::string&, const std::string&)> openBracket,
-              QWidget* parent = nullptr);
+              std::function<void()> openTestScores, QWidget* parent = nullptr);
 
   QListWidget* Lines() const { return lines_; }
   QPushButton* SkipButton() const { return skip_; }
@@ -43,6 +43,7 @@ class ScoreTicker : public QDialog, public courtmere::SeasonObserver {
   void Wait(double seconds) override;
   void ShowPreseasonBracket(const std::string& tournament) override;
   void ShowConferenceBracket(const std::string& conference) override;
+  void ShowTestScores() override { openTestScores_(); }
 
   // The line of a result: "Duke 78, 3. Kansas 70".
   static QString ResultLine(const std::string& winner, int winnerScore, const std::string& loser,
@@ -52,6 +53,7 @@ class ScoreTicker : public QDialog, public courtmere::SeasonObserver {
   bool IsUserSchool(const std::string& shown) const;
 
   std::function<void(const std::string&, const std::string&)> openBracket_;
+  std::function<void()> openTestScores_;
   QListWidget* lines_;
   QPushButton* skip_;
   QEventLoop* waiting_ = nullptr;  // the pause under way, if any

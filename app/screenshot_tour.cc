@@ -70,6 +70,7 @@ constexpr const char* kPostseasonScreens[][2] = {
     {"mnuHeadlinesAllAmerica", "all_america"},
     {"mnuHeadlineConf", "conference_awards"},
     {"mnuHeadlineBubble", "nct_bubble_selected"},
+    {"mnuNewsTestScores", "test_scores"},
 };
 
 class Tour {
@@ -113,6 +114,8 @@ class Tour {
     Snap("home_week4");
     PlayOn();
     for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
+    EndTheSeason();
+    Open("mnuNewsRecruitSignings", "recruit_signings");
     return shots_;
   }
 
@@ -217,6 +220,23 @@ class Tour {
       }
     }
     Snap("sim_games_postseason");
+  }
+
+  // The last days to Season Over, then End Season: the recruits sign.
+  void EndTheSeason() {
+    window_->CloseScreens();
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    for (int step = 0; games && session_->config.Stage != kStageSeasonOver && step < 100; ++step) {
+      if (games->SimButton()->isEnabled()) {
+        SimDayAsUser(*window_, ui_, *games);
+      } else {
+        games->NextDay();
+      }
+    }
+    window_->CloseScreens();
+    window_->RunCommand("mnuProgressEnd");
+    Settle();
   }
 
   // The suspensions of the first conference, the user's first, that has any.

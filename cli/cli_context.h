@@ -69,6 +69,8 @@ void AddLineupCommand(CLI::App& app, CliContext& context);
 void AddRecruitsCommand(CLI::App& app, CliContext& context);
 void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
+void AddEndSeasonCommand(CLI::App& app, CliContext& context);
+void AddSigningsCommands(CLI::App& app, CliContext& context);
 void AddDraftCommand(CLI::App& app, CliContext& context);
 void AddBeginOffseasonCommand(CLI::App& app, CliContext& context);
 void AddTrainingCommand(CLI::App& app, CliContext& context);

@@ -1,6 +1,7 @@
 // courtmere-cli bench-year: with a fixed seed, from a blank store, a new
 // dynasty and three whole years (season, End Season, draft, offseason,
-// training, Start Season), box scores off. Prints each year's seconds and
+// training, Start Season), box scores off, the user's school recruiting as
+// a computer team. Prints each year's seconds and
 // the store's size, the time each stage took (wall and processor), and last the signature of every
 // player row, the draft and the schedule at the end, the years and the seconds of the three.
 #include <fmt/format.h>
@@ -93,6 +94,7 @@ void RunBenchYear(CliContext& context) {
   OpenDynasty(session);
   SeasonRun run(session);
   SeasonRecruiting recruiting;
+  recruiting.SetUserRecruitsAsComputer(true);
   run.recruiting = &recruiting;
   run.cpuSetsUserTeam = true;
   double total = 0;

@@ -1,7 +1,8 @@
 // courtmere-cli dynasty --years N: plays N whole years from where the
 // dynasty stands (the season, End Season, the draft, Begin Offseason, Train
 // Players, Start Season), answering Yes to every question, the user's
-// lineup set by the computer as under the auto-sim. One line a year: the
+// lineup set by the computer as under the auto-sim and his recruiting done
+// as a computer team's. One line a year: the
 // champion, the user's record and his recruiting class's rank.
 #include <fmt/format.h>
 
@@ -23,6 +24,9 @@ void RunDynasty(CliContext& context, int years) {
   if (years < 1) Refuse("--years must be at least 1.");
   std::unique_ptr<SeasonRun> run = ResumeSeasonRun(context);
   run->cpuSetsUserTeam = true;
+  // Nobody recruits for the user in a headless run: his school recruits as
+  // a computer team, so that it signs a class and the dynasty stays alive.
+  context.recruiting.SetUserRecruitsAsComputer(true);
   Session& session = run->session;
   const std::string school = HumanSchool(session.Db());
   for (int y = 1; y <= years; ++y) {

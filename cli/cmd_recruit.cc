@@ -73,6 +73,7 @@ void PrintCard(CliContext& context, int id) {
   fmt::print("Schools: {}\n", schools);
   if (!c.PosRank.empty()) fmt::print("{} {}\n", c.PosRank, c.Position);
   if (!c.Top50Rank.empty()) fmt::print("{}\n", c.Top50Rank);
+  if (!c.TeamChoice.empty()) fmt::print("Signed with: {}\n", c.TeamChoice);
   fmt::print("Report: {}\n", c.ScoutingReport);
 }
 

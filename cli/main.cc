@@ -61,6 +61,8 @@ int main(int argc, char** argv) {
   courtmere::cli::AddRecruitsCommand(app, context);
   courtmere::cli::AddRecruitCommand(app, context);
   courtmere::cli::AddRecruitingCommand(app, context);
+  courtmere::cli::AddEndSeasonCommand(app, context);
+  courtmere::cli::AddSigningsCommands(app, context);
   courtmere::cli::AddDraftCommand(app, context);
   courtmere::cli::AddBeginOffseasonCommand(app, context);
   courtmere::cli::AddTrainingCommand(app, context);

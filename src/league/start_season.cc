@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cpu/computer_roster.h"
+#include "league/class_ranks.h"
 #include "league/clear_old_season.h"
 #include "league/head_coach.h"
 #include "league/poll.h"
@@ -65,6 +66,7 @@ void OpenSeason(Session& session, const std::string& school) {
   ShowStatus(session, "Ranking Teams");
   UpdateScheduleStrength(session);
   UpdatePoll(session);
+  RankRecruitClasses(session);
   // The compaction of "Loading Players" needs the store closed: it runs
   // once this season's transaction has committed.
   ShowStatus(session, "Loading Players");

@@ -124,15 +124,6 @@ struct RankRow {
   int potential;
 };
 
-// round(0.5 B + 0.5 A, 2), with A and B his ratings seen through the noise.
-double DrawRankPoints(Rng& rng, double overall, int potential) {
-  const int d1 = Int(rng.Rnd() * 10 + 1) > 5 ? Int(rng.Rnd() * 10 + 5) : -Int(rng.Rnd() * 10 + 5);
-  const int d2 = Int(rng.Rnd() * 10 + 1) > 5 ? Int(rng.Rnd() * 15 + 5) : -Int(rng.Rnd() * 15 + 5);
-  const double a = overall + d1;
-  const double b = potential + d2;
-  return Round(0.5 * b + 0.5 * a, 2);
-}
-
 int64_t CurrentYear(Store& store) {
   return LoadConfig(store).CurrYear;
 }
@@ -152,6 +143,14 @@ void WriteRanks(Store& store, const char* column, int count, std::string_view sq
 }
 
 }  // namespace
+
+double DrawRankPoints(Rng& rng, double overall, int potential) {
+  const int d1 = Int(rng.Rnd() * 10 + 1) > 5 ? Int(rng.Rnd() * 10 + 5) : -Int(rng.Rnd() * 10 + 5);
+  const int d2 = Int(rng.Rnd() * 10 + 1) > 5 ? Int(rng.Rnd() * 15 + 5) : -Int(rng.Rnd() * 15 + 5);
+  const double a = overall + d1;
+  const double b = potential + d2;
+  return Round(0.5 * b + 0.5 * a, 2);
+}
 
 std::vector<InterestSchool> LoadInterestSchools(Store& store) {
   std::vector<InterestSchool> schools;

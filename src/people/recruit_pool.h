@@ -42,6 +42,10 @@ void SetRecruitInterest(Rng& rng, const std::vector<InterestSchool>& schools, Re
 // schools once, at its first call.
 RecruitInterestHook RecruitInterestFromStore();
 
+// A player's rank value as the magazines see him: round(0.5 B + 0.5 A, 2),
+// with A his Overall and B his Potential each seen through the noise.
+double DrawRankPoints(Rng& rng, double overall, int potential);
+
 // Draws the rank value (RankPoints) of every eligible recruit of the position
 // and gives the best fifteen PosRank 1 to 15. Eligible: InEligible 0, or the
 // current year for a junior-college man whose year has come.

@@ -2,22 +2,27 @@
 
 #include "recruiting/pool_updates.h"
 #include "recruiting/recruit_points.h"
+#include "recruiting/scout_letters.h"
+#include "recruiting/signing.h"
+#include "recruiting/target_lists.h"
+#include "recruiting/test_scores.h"
 #include "recruiting/top_bid.h"
+#include "recruiting/week_plan.h"
 #include "store/session.h"
 
 namespace courtmere {
-
-ComputerTurn& NoComputerTurn() {
-  static ComputerTurn none;
-  return none;
-}
 
 int SeasonRecruiting::PointsLeft(Session& session) {
   return UserPointsAvail(session);
 }
 
-void SeasonRecruiting::ComputerRecruiting(Session& session, int week) {
-  computer_->Run(session, week, Period(session.config));
+void SeasonRecruiting::ComputerRecruiting(Session& session, int week, bool autoSim) {
+  const bool userToo = autoSim || userAsComputer_;
+  if (week == 1) {
+    BuildRecruitLists(session, userToo);
+  } else if (week >= 2 && week <= 12) {
+    RunCPURecruiting(session, week, Period(session.config), userToo);
+  }
 }
 
 void SeasonRecruiting::ClearWeekDecisions(Session& session) {
@@ -40,8 +45,30 @@ void SeasonRecruiting::DeclareNBARecruits(Session& session) {
   courtmere::DeclareNBARecruits(session);
 }
 
+void SeasonRecruiting::ScoutRecruitReport(Session& session, int recruit) {
+  courtmere::ScoutRecruitReport(session, recruit);
+}
+
+void SeasonRecruiting::RecruitInterestReport(Session& session) {
+  courtmere::RecruitInterestReport(session);
+}
+
 void SeasonRecruiting::UpdateRecruitStats(Session& session, int update) {
   courtmere::UpdateRecruitStats(session, update);
+}
+
+void SeasonRecruiting::FindBackupRecruit(Session& session) {
+  courtmere::FindBackupRecruit(session);
+}
+
+void SeasonRecruiting::RecruitTestScores(Session& session, int report) {
+  // The list itself is read by the screens (RecruitTestScores in
+  // test_scores.h); the season's step gives the test.
+  if (report == 1) GiveRecruitTest(session);
+}
+
+void SeasonRecruiting::SignRecruits(Session& session) {
+  SignAllRecruits(session);
 }
 
 }  // namespace courtmere

@@ -12,7 +12,8 @@ std::optional<RecruitCard> LoadRecruitCard(Session& session, int playerId) {
       "PerrDefenseGrade, PostDefenseGrade, HandlingGrade, PassingGrade, PotentialGrade, "
       "Homesick, PlayWinner, PPG, APG, RPG, TOs, SPG, Recruit.GPA, "
       "coalesce(Recruit.ScoutingReport, ''), coalesce(Team1, ''), coalesce(Team2, ''), "
-      "coalesce(Team3, ''), PosRank, Top50Rank, NBAFlag FROM Player, Recruit WHERE Player.Id = "
+      "coalesce(Team3, ''), PosRank, Top50Rank, NBAFlag, coalesce(TeamChoice, '') FROM Player, "
+      "Recruit WHERE Player.Id = "
       "Recruit.Id AND Player.Id = ?",
       playerId);
   if (!r.Next()) return std::nullopt;
@@ -50,6 +51,7 @@ std::optional<RecruitCard> LoadRecruitCard(Session& session, int playerId) {
     if (!r.Text(i).empty()) card.Schools.emplace_back(r.Text(i));
   }
   if (r.Int(29) > 0) card.PosRank = "No. " + std::to_string(r.Int(29));
+  card.TeamChoice = r.Text(32);
   if (r.Int(30) > 0) card.Top50Rank = "No. " + std::to_string(r.Int(30)) + " Overall";
   return card;
 }

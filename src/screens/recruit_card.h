@@ -29,6 +29,9 @@ struct RecruitCard {
   std::vector<std::string> Schools;  // Team1 to Team3
   std::string PosRank;               // "No. 3", empty when unranked
   std::string Top50Rank;             // "No. 12 Overall", empty when unranked
+  // The school he signed with ("NBA" for a man gone to the draft); empty
+  // until he chooses.
+  std::string TeamChoice;
 };
 
 // Nothing when the id is no recruit.

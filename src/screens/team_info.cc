@@ -43,7 +43,7 @@ void AddProfile(Store& store, const std::string& school, std::vector<InfoLine>& 
   Rows t = store.Query(
       "SELECT Location, State, Conference, Division, Region, Colors, Population, ArenaCapacity, "
       "Prestige, TeamRating, TVGames, ConfChamps, NCTApps, NCTWins, NCTLosses, NCTChamps, "
-      "ACTApps, ACTWins, ACTLosses, ACTChamps, OverallWins, OverallGames FROM Team "
+      "ACTApps, ACTWins, ACTLosses, ACTChamps, OverallWins, OverallGames, ClassRank FROM Team "
       "WHERE SchoolName = ?",
       school);
   if (!t.Next()) return;
@@ -58,6 +58,9 @@ void AddProfile(Store& store, const std::string& school, std::vector<InfoLine>& 
   lines.push_back({"Prestige", BandOf(t.Double(8)).Label});
   lines.push_back({"Team Rating", std::to_string(t.Int(9))});
   lines.push_back({"TV Games", std::to_string(t.Int(10))});
+  // The rank of this season's freshmen among the nation's recruiting classes.
+  lines.push_back(
+      {"Recruiting Class", t.Int(22) > 0 ? "No. " + std::to_string(t.Int(22)) : "Unranked"});
   lines.push_back({"Conference Titles", std::to_string(t.Int(11))});
   lines.push_back({"NCT Appearances", std::to_string(t.Int(12))});
   lines.push_back({"NCT Record", WinLoss(t.Int(13), t.Int(14))});

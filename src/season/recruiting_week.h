@@ -32,8 +32,9 @@ class RecruitingWeek {
   virtual int PointsLeft(Session&) { return 0; }
 
   // Computer recruiting at the end of `week`: the target lists in week 1,
-  // the weekly bids from week 2 to 12 (and in week 5's step).
-  virtual void ComputerRecruiting(Session&, int /*week*/) {}
+  // the weekly bids from week 2 to 12 (and in week 5's step). Under the
+  // auto-sim (`autoSim`) the user's school recruits as a computer team.
+  virtual void ComputerRecruiting(Session&, int /*week*/, bool /*autoSim*/) {}
   // WeekDecision back to "none" on every RecruitDecision row.
   virtual void ClearWeekDecisions(Session&) {}
   // WeekBid back to 0 on every RecruitDecision row.
@@ -50,7 +51,7 @@ class RecruitingWeek {
   virtual void FindBackupRecruit(Session&) {}
   virtual void RecruitTestScores(Session&, int /*report*/) {}
 
-  // The recruits' decisions at the end of the season, in their two passes.
+  // The recruits' decisions at the end of the season, in their two runs.
   virtual void SignRecruits(Session&) {}
 };
 

@@ -23,6 +23,9 @@ class SeasonObserver {
   // The bracket of the user's conference tournament, drawn at the end of
   // week 15.
   virtual void ShowConferenceBracket(const std::string& conference) = 0;
+  // The recruits' academic test has been given (week 10): the list of the
+  // scores opens.
+  virtual void ShowTestScores() {}
 };
 
 }  // namespace courtmere

@@ -84,9 +84,7 @@ void WeekTen(SeasonRun& run) {
   if (!run.recruiting->SigningActive()) return;
   Progress(run, "Checking High School Test scores");
   run.recruiting->RecruitTestScores(run.session, 1);
-  AddInboxMessage(run.session, "Compliance Dir", "Recruit Test Scores",
-                  "We have received a list of each low GPA recruit's final test scores. To view "
-                  "them, select News and Recruit Test Scores from the main menu.");
+  if (run.observer != nullptr) run.observer->ShowTestScores();
 }
 
 // Every conference with a schedule type gets its tournament and its
@@ -201,7 +199,7 @@ void RecruitingWeekEnd(SeasonRun& run, int week) {
   recruiting.ClearWeekDecisions(run.session);
   if (recruiting.ComputerActive()) {
     Progress(run, "CPU Recruiting");
-    recruiting.ComputerRecruiting(run.session, week);
+    recruiting.ComputerRecruiting(run.session, week, run.autoSim);
   }
   recruiting.ClearWeekBids(run.session);
   if (week >= 6) recruiting.EstimateTopBids(run.session);
@@ -260,7 +258,7 @@ void WeekFiveEvents(SeasonRun& run) {
   Session& session = run.session;
   RecruitingWeek& recruiting = *run.recruiting;
   HealInjuries(session);
-  if (recruiting.ComputerActive()) recruiting.ComputerRecruiting(session, 5);
+  if (recruiting.ComputerActive()) recruiting.ComputerRecruiting(session, 5, run.autoSim);
   UpdateCRI(session);
   RecordRanks(session.Db(), 5);
   if (recruiting.Active()) recruiting.ClearWeekDecisions(session);

@@ -57,7 +57,7 @@ class OptionsTest : public QObject {
   }
 
   void theTickerWaitsUnlessTheAutoSimOrSkipSaysNot() {
-    ScoreTicker ticker([](const std::string&, const std::string&) {});
+    ScoreTicker ticker([](const std::string&, const std::string&) {}, [] {});
     ticker.SetUserSchool(AppDynasty::kHuman);
     QElapsedTimer clock;
     ticker.GameResult("3. St. John's", 80, "Duke", 70);

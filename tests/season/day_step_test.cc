@@ -25,7 +25,7 @@ namespace {
 class RecordingRecruiting : public RecruitingWeek {
  public:
   bool Active() const override { return true; }
-  void ComputerRecruiting(Session&, int week) override {
+  void ComputerRecruiting(Session&, int week, bool) override {
     Note("ComputerRecruiting " + std::to_string(week));
   }
   void ClearWeekDecisions(Session&) override { Note("ClearWeekDecisions"); }
