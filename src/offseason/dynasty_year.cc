@@ -84,15 +84,13 @@ YearSummary PlayYear(SeasonRun& run, CareerSteps& career) {
   while (session.config.Stage != kStagePostTraining) {
     if (session.config.Stage == kStageSeasonOver) ReadRecord(session, summary);
     advance();
-    if (session.config.Stage == kStageEndSeason) {
-      summary.classRank =
-          static_cast<int>(session.Db()
-                               .ScalarInt("SELECT ClassRank FROM Team WHERE SchoolName = ?",
-                                          HumanSchool(session.Db()))
-                               .value_or(0));
-    }
   }
   advance();
+  // The class that has just joined, as Start Season ranks it.
+  summary.classRank = static_cast<int>(
+      session.Db()
+          .ScalarInt("SELECT ClassRank FROM Team WHERE SchoolName = ?", HumanSchool(session.Db()))
+          .value_or(0));
   return summary;
 }
 

@@ -19,7 +19,7 @@ struct YearSummary {
   std::string champion;  // the NCT's; empty if the final was not played
   int wins = 0;
   int losses = 0;
-  int classRank = 0;  // the user's recruiting class after signing; 0 unranked
+  int classRank = 0;  // the rank of the user's new class; 0 outside the top 10
 };
 
 // Runs the one command of the current stage; false when it was refused or
