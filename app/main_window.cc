@@ -184,6 +184,7 @@ void MainWindow::RegisterCommands() {
   On("mnuHelpContents", [this] { Show<HelpScreen>(); });
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
+  RegisterOffseasonCommands();
   RegisterRecruitCommands();
   RegisterCareerCommands();
 }

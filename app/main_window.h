@@ -94,6 +94,9 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void RegisterRecruitCommands();
   // main_window_career.cc
   void RegisterCareerCommands();
+  // Run Draft, Begin Offseason, the training screen, Train Players and the
+  // offseason's lists.
+  void RegisterOffseasonCommands();
   // The window's title: the gate's, or the period's caption the running
   // season has set.
   std::string WindowTitle(const std::string& gateTitle) const;

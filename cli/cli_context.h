@@ -74,5 +74,12 @@ void AddSigningsCommands(CLI::App& app, CliContext& context);
 void AddReviewCommand(CLI::App& app, CliContext& context);
 void AddJobsCommand(CLI::App& app, CliContext& context);
 void AddTakeJobCommand(CLI::App& app, CliContext& context);
+void AddDraftCommand(CLI::App& app, CliContext& context);
+void AddBeginOffseasonCommand(CLI::App& app, CliContext& context);
+void AddTrainingCommand(CLI::App& app, CliContext& context);
+void AddTrainCommand(CLI::App& app, CliContext& context);
+void AddDevelopmentCommand(CLI::App& app, CliContext& context);
+void AddDynastyCommand(CLI::App& app, CliContext& context);
+void AddBenchYearCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

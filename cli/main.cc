@@ -66,6 +66,13 @@ int main(int argc, char** argv) {
   courtmere::cli::AddReviewCommand(app, context);
   courtmere::cli::AddJobsCommand(app, context);
   courtmere::cli::AddTakeJobCommand(app, context);
+  courtmere::cli::AddDraftCommand(app, context);
+  courtmere::cli::AddBeginOffseasonCommand(app, context);
+  courtmere::cli::AddTrainingCommand(app, context);
+  courtmere::cli::AddTrainCommand(app, context);
+  courtmere::cli::AddDevelopmentCommand(app, context);
+  courtmere::cli::AddDynastyCommand(app, context);
+  courtmere::cli::AddBenchYearCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

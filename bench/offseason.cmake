@@ -1,0 +1,2 @@
+list(APPEND COURTMERE_BENCH_SOURCES ${CMAKE_CURRENT_SOURCE_DIR}/offseason_bench.cc)
+list(APPEND COURTMERE_BENCH_LIBS courtmere_offseason)
