@@ -69,5 +69,6 @@ void AddLineupCommand(CLI::App& app, CliContext& context);
 void AddRecruitsCommand(CLI::App& app, CliContext& context);
 void AddRecruitCommand(CLI::App& app, CliContext& context);
 void AddRecruitingCommand(CLI::App& app, CliContext& context);
+void AddLiveCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli
