@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include "app/screen.h"
+#include "app/sub_patterns_screen.h"
 #include "engine/box_score.h"
 #include "engine/debug_dump.h"
 #include "people/player.h"
@@ -252,9 +253,7 @@ QWidget* LiveGameWindow::BuildBoxTab() {
 
 QWidget* LiveGameWindow::BuildPatternsTab() {
   auto* tab = new QWidget(this);
-  QStringList headings;
-  for (const char* column : kSubPatternColumns) headings << column;
-  patterns_ = Table("MSFlexSub", headings, tab);
+  patterns_ = MakeSubPatternTable(tab);
   auto* layout = new QVBoxLayout(tab);
   layout->addWidget(patterns_);
   return tab;
@@ -388,9 +387,12 @@ void LiveGameWindow::WaitForResume(Game& game) {
   PumpUntil([&] { return game.Resume != 0 || game.LiveGame == 0; });
 }
 
-void LiveGameWindow::PlayerMustLeave(Game&, bool fouledOut) {
+void LiveGameWindow::PlayerMustLeave(Game& game, bool fouledOut) {
   Tell(ForcedSubMessage(fouledOut));
   tabs_->setCurrentIndex(1);
+  // Shown anew even when the tab was open: the game holds here.
+  game.Resume = 0;
+  FillLineupTab();
 }
 
 void LiveGameWindow::OpenSubstitutions(Game& game) {
@@ -559,7 +561,7 @@ void LiveGameWindow::FillLineupTab() {
   try {
     for (int s = 0; s < 2; ++s) {
       const Side side = s == 0 ? user : OtherSide(user);
-      const std::vector<LineupRow> rows = LineupRows(session_, game, side);
+      const std::vector<LiveLineupRow> rows = LineupRows(session_, game, side);
       lineup_[s]->setRowCount(static_cast<int>(rows.size()));
       for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
         for (int c = 0; c < static_cast<int>(rows[r].cells.size()); ++c) {
@@ -613,23 +615,13 @@ void LiveGameWindow::FillBoxTab() {
 }
 
 void LiveGameWindow::FillPatternsTab() {
-  const std::string school = UserTeam(*game_).School;
-  const std::vector<SubPatternRow> rows = SubPatternRows(session_, school);
-  patterns_->setRowCount(static_cast<int>(rows.size()));
-  for (int r = 0; r < static_cast<int>(rows.size()); ++r) {
-    for (int c = 0; c < static_cast<int>(rows[r].cells.size()); ++c) {
-      SetCell(patterns_, r, c, rows[r].cells[c]);
-    }
-    auto* box = Combo("cmbSub", kSubPatternChoices, patterns_);
-    Select(box, rows[r].pattern);
-    // On this tab each change is written at once, without a question.
-    SubPatternRow row = rows[r];
-    connect(box, &QComboBox::currentTextChanged, this, [this, row](const QString& text) mutable {
-      row.pattern = ToStdString(text);
-      SaveSubPatterns(session_, {row});
-    });
-    patterns_->setCellWidget(r, static_cast<int>(row.cells.size()), box);
-  }
+  const std::vector<SubPatternRow> rows = SubPatternRows(session_, UserTeam(*game_).School);
+  // On this tab each change is written at once, without a question.
+  ShowSubPatternRows(patterns_, rows, [this, rows](int row, const std::string& pattern) {
+    SubPatternRow changed = rows[static_cast<size_t>(row)];
+    changed.pattern = pattern;
+    SaveSubPatterns(session_, {changed});
+  });
 }
 
 }  // namespace courtmere::app

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "app/grid_model.h"
+#include "app/sub_patterns_screen.h"
 #include "screens/box_score_view.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
@@ -85,6 +86,10 @@ SimGamesScreen::SimGamesScreen(Session& session, ScreenHost& host, SeasonRun& ru
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(coachGame_);
   buttons->addWidget(coachFinish_);
+  // The substitution patterns, to be set before a game as during one.
+  buttons->addWidget(AddButton("cmdSubPatterns", "Sub Patterns", [this] {
+    host_.OpenScreen(new SubPatternsScreen(session_, host_));
+  }));
   buttons->addStretch();
   buttons->addWidget(prev_);
   buttons->addWidget(sim_);

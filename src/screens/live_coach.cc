@@ -272,9 +272,9 @@ Gameplan CurrentGameplan(const Game& game) {
   return plan;
 }
 
-std::vector<LineupRow> LineupRows(Session& session, const Game& game, Side side) {
+std::vector<LiveLineupRow> LineupRows(Session& session, const Game& game, Side side) {
   const GameSide& team = game.SideOf(side);
-  std::vector<LineupRow> rows;
+  std::vector<LiveLineupRow> rows;
   for (int i = 1; i <= team.RosterCount; ++i) {
     const GamePlayer& man = team.Roster[i];
     const GameStat& line = team.Stats[i];
@@ -283,7 +283,7 @@ std::vector<LineupRow> LineupRows(Session& session, const Game& game, Side side)
         "PerrDefenseGrade, PostDefenseGrade, PassingGrade, HandlingGrade, ReboundGrade, "
         "PotentialGrade FROM Player WHERE Team = ? AND Id = ?",
         team.School, man.Id);
-    LineupRow row{man.Id, {}};
+    LiveLineupRow row{man.Id, {}};
     if (r.Next()) {
       row.cells = {r.Text(0),
                    PositionName(r.Int(1)),

@@ -105,7 +105,7 @@ std::string SaveGameplan(Session& session, const std::string& school, const Game
 Gameplan CurrentGameplan(const Game& game);
 
 // One row of the lineup tab's grid.
-struct LineupRow {
+struct LiveLineupRow {
   int id = 0;
   std::vector<std::string> cells;  // kLineupColumns
 };
@@ -113,7 +113,7 @@ inline constexpr std::array<const char*, 14> kLineupColumns = {
     "Name",   "Pos",  "Ht",    "Year", "Score", "Threes", "Perr D",
     "Post D", "Pass", "Hands", "Rebs", "Pot",   "End",    "Tired"};
 // Every dressed man of a side: grades from the store, energy from the game.
-std::vector<LineupRow> LineupRows(Session& session, const Game& game, Side side);
+std::vector<LiveLineupRow> LineupRows(Session& session, const Game& game, Side side);
 
 // A depth-chart combo's entries: the side's men who may play (health
 // "Good", not suspended, not redshirting), by Id and short name.

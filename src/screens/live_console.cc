@@ -89,6 +89,8 @@ void LiveConsole::PrepareGame(Game& game) {
   endgameTold_ = false;
   out_ << game.Away().School << " at " << game.Home().School << "\n";
   PrintFloor(game);
+  Say("Commands: timeout, sub OUT IN, tempo, offence, defence, press, gameplan, pause, go, "
+      "exit. go starts the game.");
   game.SubWindow = 1;
   game.Resume = 0;
   Wait(game);
@@ -109,6 +111,8 @@ void LiveConsole::ShowPlay(Game& game, PlayKind kind, std::string_view, std::str
   TakeCommands(game, false);
   if (game.Live() && (game.Resume == 0 || game.SubForced == 1)) Wait(game);
   atHalftime_ = false;
+  // Left to the computer: the screen shows nothing more.
+  if (!game.Live()) return;
   if (!listLine.empty()) PrintLine(game, std::string(listLine));
 }
 
