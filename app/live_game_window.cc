@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -31,11 +32,11 @@ namespace {
 
 constexpr int kManColumns = 6;  // name, points, rebounds, assists, fouls, tired
 
-template <size_t N>
-QComboBox* Combo(const char* name, const std::array<const char*, N>& items, QWidget* parent) {
+template <class Items>
+QComboBox* Combo(const char* name, const Items& items, QWidget* parent) {
   auto* box = new QComboBox(parent);
   box->setObjectName(name);
-  for (const char* item : items) box->addItem(item);
+  for (const auto& item : items) box->addItem(ToQString(item));
   return box;
 }
 
@@ -137,8 +138,8 @@ QWidget* LiveGameWindow::BuildGameTab() {
   menRow->addWidget(men_[1]);
 
   tempo_ = Combo("cmbTempo", kTempoChoices, tab);
-  offence_ = Combo("cmbOffType", kOffenceChoices, tab);
-  defence_ = Combo("cmbDefense", kDefenceChoices, tab);
+  offence_ = Combo("cmbOffType", kOffenseChoices, tab);
+  defence_ = Combo("cmbDefense", kDefenseChoices, tab);
   press_ = Combo("cmbPress", kPressChoices, tab);
   coach_ = new QCheckBox("Coach the end game", tab);
   coach_->setObjectName("chkCoach");

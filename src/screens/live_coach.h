@@ -12,17 +12,14 @@
 #include <vector>
 
 #include "engine/game_model.h"
+#include "screens/roster_view.h"
 
 namespace courtmere {
 
 struct Session;
 
-// The combo boxes' contents.
-inline constexpr std::array<const char*, 3> kTempoChoices = {"Up Beat", "Normal", "Slow Down"};
-inline constexpr std::array<const char*, 3> kOffenceChoices = {"Outside", "Inside", "Normal"};
-inline constexpr std::array<const char*, 4> kDefenceChoices = {"Zone", "Man", "Matchup Zone",
-                                                               "Help"};
-inline constexpr std::array<const char*, 3> kPressChoices = {"Full Court", "Half Court", "None"};
+// The combo boxes' contents: the tactics' as on the roster screen, and the
+// end game's.
 inline constexpr std::array<const char*, 3> kPaceChoices = {"Quick", "Normal", "Slow"};
 inline constexpr std::array<const char*, 3> kShotChoices = {"Two", "Normal", "Three"};
 

@@ -39,19 +39,18 @@ std::string Rest(const std::string& line) {
   return line.substr(value, end - value + 1);
 }
 
-template <size_t N>
-std::optional<std::string> Choice(const std::array<const char*, N>& choices,
-                                  const std::string& value) {
-  for (const char* c : choices) {
-    if (Lower(c) == Lower(value)) return std::string(c);
+template <class Choices>
+std::optional<std::string> Choice(const Choices& choices, const std::string& value) {
+  for (const auto& c : choices) {
+    if (Lower(std::string(c)) == Lower(value)) return std::string(c);
   }
   return std::nullopt;
 }
 
-template <size_t N>
-std::string ChoiceList(const std::array<const char*, N>& choices) {
+template <class Choices>
+std::string ChoiceList(const Choices& choices) {
   std::string list;
-  for (const char* c : choices) list += (list.empty() ? "" : ", ") + std::string(c);
+  for (const auto& c : choices) list += (list.empty() ? "" : ", ") + std::string(c);
   return list;
 }
 
@@ -252,8 +251,8 @@ bool LiveConsole::Tactic(Game& game, const std::string& what, const std::string&
     return true;
   };
   if (what == "tempo") return set(kTempoChoices, ChooseTempo, "tempo");
-  if (what == "offence") return set(kOffenceChoices, ChooseOffence, "offence");
-  if (what == "defence") return set(kDefenceChoices, ChooseDefence, "defence");
+  if (what == "offence") return set(kOffenseChoices, ChooseOffence, "offence");
+  if (what == "defence") return set(kDefenseChoices, ChooseDefence, "defence");
   if (what == "press") return set(kPressChoices, ChoosePress, "press");
   return false;
 }

@@ -38,12 +38,16 @@ class LiveGameTest : public QObject {
     dynasty_->NameCoachRoles();
     dynasty_->ScheduleGame(AppDynasty::kHuman, "Duke", 3, dynasty_->session().config.CurrDay);
     gameNo_ = dynasty_->session().config.MaxGameNo;
+    // As the schedule writes a game of a conference's team.
+    dynasty_->store().Exec("UPDATE NonConfSchedule SET HomeConf = ? WHERE GameNo = ?",
+                           AppDynasty::kConference, gameNo_);
     window_ = std::make_unique<MainWindow>(dynasty_->session());
     window_->show();
     window_->RunGate();
     window_->RunCommand("mnuSeasonSimGames");
     games_ = Find<SimGamesScreen>(*window_);
     QVERIFY(games_);
+    QVERIFY(!games_->CoachGame()->isHidden());
     QVERIFY(games_->CoachGame()->isEnabled());
     games_->CoachGame()->setChecked(true);
   }
