@@ -284,9 +284,9 @@ void LiveGameWindow::Wire() {
   tactic(offence_, ChooseOffence);
   tactic(defence_, ChooseDefence);
   tactic(press_, ChoosePress);
-  connect(coach_, &QCheckBox::toggled, this, [this] { SetEndgameControls(); });
-  connect(pace_, &QComboBox::currentTextChanged, this, [this] { SetEndgameControls(); });
-  connect(shot_, &QComboBox::currentTextChanged, this, [this] { SetEndgameControls(); });
+  connect(coach_, &QCheckBox::clicked, this, [this] { CoachClicked(); });
+  connect(pace_, &QComboBox::activated, this, [this] { EndgameChosen(); });
+  connect(shot_, &QComboBox::activated, this, [this] { EndgameChosen(); });
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) { TabChanged(tab); });
   connect(update_, &QPushButton::clicked, this, [this] { Update(); });
   connect(gameplan_, &QPushButton::clicked, this, [this] { SaveGameplan(); });
@@ -363,6 +363,8 @@ void LiveGameWindow::ShowPlay(Game& game, PlayKind kind, std::string_view,
   if (!stop.empty()) AddLine(ToQString(stop));
   const int v = speed_->value();
   Delay(v <= 0 ? 0 : (v < 6 ? v / 12.0 : v / 7.0));
+  // A stop with the lineup tab open shows the lineup of the moment.
+  if (game.Resume == 0 && tabs_->currentIndex() == 1) FillLineupTab();
   PumpUntil([&] { return game.LiveGame == 0 || (game.Resume != 0 && game.SubForced != 1); });
   if (game.LiveGame == 0) return;
   clock_->setText(ToQString(ClockText(game.Clock)));
@@ -385,6 +387,7 @@ void LiveGameWindow::Halftime(Game& game) {
 }
 
 void LiveGameWindow::WaitForResume(Game& game) {
+  if (game.Resume == 0 && tabs_->currentIndex() == 1) FillLineupTab();
   PumpUntil([&] { return game.Resume != 0 || game.LiveGame == 0; });
 }
 
@@ -456,10 +459,25 @@ void LiveGameWindow::Tell(const std::string& message) {
   if (!message.empty()) session_.ui.Message(message);
 }
 
-void LiveGameWindow::SetEndgameControls() {
-  if (game_ == nullptr || filling_ || !coach_->isEnabled()) return;
+// Ticked, the user takes over his side's end game with the two combos'
+// settings; unticked, the computer takes it back once he agrees.
+void LiveGameWindow::CoachClicked() {
+  if (game_ == nullptr || !coach_->isEnabled()) return;
+  if (!coach_->isChecked() &&
+      !session_.ui.Ask("Do you want to let the CPU control the end-game management?")) {
+    coach_->setChecked(true);
+    return;
+  }
   CoachEndgame(*game_, coach_->isChecked(), ToStdString(pace_->currentText()),
                ToStdString(shot_->currentText()));
+}
+
+// A pace or shot chosen while the user runs the end game, once he agrees.
+void LiveGameWindow::EndgameChosen() {
+  if (game_ == nullptr || filling_ || !coach_->isChecked()) return;
+  if (!session_.ui.Ask("Do you wish to make these changes?")) return;
+  CoachEndgame(*game_, true, ToStdString(pace_->currentText()), ToStdString(shot_->currentText()));
+  Tell("Your changes have been saved.");
 }
 
 void LiveGameWindow::TabChanged(int tab) {

@@ -91,7 +91,8 @@ class LiveGameWindow : public QWidget, public LiveScreen {
   void TabChanged(int tab);
   void Update();
   void SaveGameplan();
-  void SetEndgameControls();
+  void CoachClicked();
+  void EndgameChosen();
 
   void ShowBoard();
   void ShowMen();
