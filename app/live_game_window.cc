@@ -131,6 +131,7 @@ QWidget* LiveGameWindow::BuildGameTab() {
     board->addWidget(ball_[s], 4, column, 1, 2);
     men_[s] = Table(menNames[s], {"Name", "Pts", "Reb", "Ast", "Fls", "Tired"}, tab);
     men_[s]->setRowCount(5);
+    men_[s]->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     men_[s]->setMinimumHeight(170);
   }
   auto* menRow = new QHBoxLayout;
@@ -485,6 +486,7 @@ void LiveGameWindow::TabChanged(int tab) {
   Game& game = *game_;
   if (tab == 0) {
     SetCombos();
+    pbp_->scrollToBottom();
     timeout_->setEnabled(UserTeam(game).TimeoutsLeft > 0);
     game.SubForced = 0;
     return;

@@ -38,9 +38,10 @@ struct GameOutcome {
 bool PlayGame(SeasonRun& run, GameRequest request, GameFiles files, GameOutcome& out) {
   std::string box;
   std::string log = files.log ? "log" : "none";
-  // The engine writes files only for a game with a log; the box score of
-  // every game that wants one is written below.
-  request.WriteFiles = files.log;
+  // The engine writes files only for a game with a log, or a coached one
+  // (its screen shows the box score of the moment from the file); the box
+  // score of every game that wants one is written below.
+  request.WriteFiles = files.log || request.Live == 1 || request.CoachFinish == 1;
   if (run.runGame(run.game, run.day, request, box, log) != 1) return false;
   if (files.box) {
     const ProgramFolder& folder = run.session.folder;
