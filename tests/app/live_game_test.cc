@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTimer>
 #include <QtTest>
 #include <functional>
@@ -18,6 +19,7 @@
 #include "app/main_window.h"
 #include "app/play_steps.h"
 #include "app/sim_games_screen.h"
+#include "app/sub_patterns_screen.h"
 #include "app_dynasty.h"
 #include "screen_probes.h"
 #include "screenshots.h"
@@ -135,6 +137,27 @@ class LiveGameTest : public QObject {
     QVERIFY(closed);
     QVERIFY(live->isHidden());
     ExpectRecordedOnce();
+  }
+
+  // Outside a game: the patterns screen from Today's Games; Submit asks and
+  // saves.
+  void patternsAreSetBeforeAGame() {
+    games_->findChild<QPushButton*>("cmdSubPatterns")->click();
+    auto* patterns = Find<SubPatternsScreen>(*window_);
+    QVERIFY(patterns);
+    QTableWidget* table = patterns->Table();
+    QVERIFY(table->rowCount() > 0);
+    auto* box = qobject_cast<QComboBox*>(table->cellWidget(0, table->columnCount() - 1));
+    QCOMPARE(box->currentText(), QString("Normal"));
+    box->setCurrentText("More");
+    patterns->Submit();
+    QCOMPARE(QString::fromStdString(dynasty_->ui().Messages().back()),
+             QString("Your substitution patterns have been saved."));
+    QCOMPARE(dynasty_->store()
+                 .ScalarInt("SELECT count(*) FROM Player WHERE Team = ? AND SubPattern = 'More'",
+                            AppDynasty::kHuman)
+                 .value_or(0),
+             int64_t{1});
   }
 
  private:
