@@ -33,6 +33,7 @@ namespace courtmere::app {
 class HomeScreen;
 class InboxDock;
 class IntroScreen;
+class LiveGameWindow;
 class ScoreTicker;
 
 class MainWindow : public QMainWindow, public ScreenHost {
@@ -60,6 +61,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   HomeScreen* Home() const { return home_; }
   InboxDock* Inbox() const { return inbox_; }
   ScoreTicker* Ticker() const { return ticker_; }
+  // frmPlayByPlay2, made with the season's run; null before.
+  LiveGameWindow* LiveWindow() const { return liveWindow_; }
   // The season's run of this dynasty: the day screen, the auto-sim flag.
   SeasonRun& Season();
   // The recruiting the season's run plugs in, with the period it holds.
@@ -136,6 +139,7 @@ class MainWindow : public QMainWindow, public ScreenHost {
   QMdiArea* area_;
   InboxDock* inbox_;
   ScoreTicker* ticker_;
+  LiveGameWindow* liveWindow_ = nullptr;
   // Deleted where the season's run is a complete type (main_window_season.cc).
   struct SeasonRunDeleter {
     void operator()(SeasonRun* run) const;

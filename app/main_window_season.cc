@@ -1,6 +1,7 @@
 // The main window's part in the season: the run of the season it holds for
 // the dynasty, the Sim Games screen, the auto-sim and End Season. Kept apart
 // from main_window.cc, whose screens' headers do not mix with the engine's.
+#include "app/live_game_window.h"
 #include "app/main_window.h"
 #include "app/score_ticker.h"
 #include "app/sim_games_screen.h"
@@ -18,7 +19,11 @@ void MainWindow::SeasonRunDeleter::operator()(SeasonRun* run) const {
 
 SeasonRun& MainWindow::Season() {
   if (!season_) {
-    season_.reset(new SeasonRun(session_));
+    if (liveWindow_ == nullptr) {
+      liveWindow_ = new LiveGameWindow(session_, this);
+      liveWindow_->openPlayerCard = [this](int id) { OpenPlayerCard(id); };
+    }
+    season_.reset(new SeasonRun(session_, liveWindow_));
     season_->observer = ticker_;
     recruiting_ = std::make_shared<SeasonRecruiting>();
     season_->recruiting = recruiting_.get();

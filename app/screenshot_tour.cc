@@ -2,18 +2,23 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <memory>
 
 #include "app/coach_roles_screen.h"
 #include "app/conference_choice_screen.h"
 #include "app/grid_model.h"
 #include "app/inbox_dock.h"
+#include "app/live_game_window.h"
 #include "app/main_window.h"
 #include "app/play_steps.h"
 #include "app/recruit_board_screen.h"
@@ -137,10 +142,43 @@ class Tour {
     QCoreApplication::processEvents();
   }
 
-  void Snap(const char* name) {
+  void Snap(const char* name, QWidget* widget = nullptr) {
     Settle();
     const QString file = QString("%1/%2_%3.png").arg(folder_).arg(++shots_, 2, 10, QChar('0'));
-    window_->grab().save(file.arg(name));
+    (widget != nullptr ? widget : window_.get())->grab().save(file.arg(name));
+  }
+
+  // The user's first game of the tour coached live, with the computer's
+  // substitutions so that it plays as the unattended game would: paused
+  // ten minutes in, each of the four tabs, then Exit to the computer.
+  void CoachOneGame(SimGamesScreen& games) {
+    LiveGameWindow* live = window_->LiveWindow();
+    if (live == nullptr) return;
+    games.CoachGame()->setChecked(true);
+    QTimer driver;
+    bool shown = false;
+    QObject::connect(&driver, &QTimer::timeout, [&] {
+      Game* game = live->Running();
+      if (game == nullptr || shown) return;
+      live->Speed()->setValue(0);
+      live->AutoSubBox()->setChecked(true);
+      if (game->Half == 1 && game->Clock < 600 && game->Resume != 0) {
+        shown = true;
+        live->StartButton()->click();
+        static constexpr const char* kTabs[] = {"live_game", "live_game_lineup",
+                                                "live_game_box_score", "live_game_patterns"};
+        for (int tab = 0; tab < 4; ++tab) {
+          live->Tabs()->setCurrentIndex(tab);
+          Snap(kTabs[tab], live);
+        }
+        live->ExitButton()->click();
+        return;
+      }
+      if (game->Resume == 0) live->StartButton()->click();
+    });
+    driver.start(1);
+    SimDayAsUser(*window_, ui_, games);
+    games.CoachGame()->setChecked(false);
   }
 
   // The first three conferences, then the second conference's third school.
@@ -192,9 +230,15 @@ class Tour {
     window_->RunCommand("mnuSeasonSimGames");
     auto* games = Find<SimGamesScreen>();
     if (!games) return;
+    bool coached = false;
     for (int day = 0; day < kDaysPlayed; ++day) {
       if (day > 0) games->NextDay();
-      SimDayAsUser(*window_, ui_, *games);
+      if (!coached && !games->CoachGame()->isHidden()) {
+        coached = true;
+        CoachOneGame(*games);
+      } else {
+        SimDayAsUser(*window_, ui_, *games);
+      }
     }
     Snap("sim_games");
     emit games->Grid()->CellClicked(0, 0);

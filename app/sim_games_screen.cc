@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "app/grid_model.h"
+#include "app/sub_patterns_screen.h"
 #include "screens/box_score_view.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
@@ -42,14 +43,25 @@ SimGamesScreen::SimGamesScreen(Session& session, ScreenHost& host, SeasonRun& ru
       caption_(new QLabel(this)),
       grid_(new GridView(new GridModel(DayHeadings(), this), false, this)),
       notice_(new QLabel(this)),
-      coachGame_(new QCheckBox("Coach this game", this)) {
+      coachGame_(new QCheckBox("Coach this game", this)),
+      coachFinish_(new QCheckBox("Coach the finish", this)) {
   setObjectName("frmSimGames");
   grid_->setObjectName("grdGames");
   notice_->setObjectName("lblNoGames");
   coachGame_->setObjectName("chkCoachGame");
-  // The live game screen is not part of the desktop program yet: the box
-  // shows the option's value but every game is simulated.
-  coachGame_->setEnabled(false);
+  coachFinish_->setObjectName("chkCoachFinish");
+  coachFinish_->setToolTip(
+      "The game runs unattended until the last three minutes with the margin at 8 or less; "
+      "then you coach the end game");
+  // The two ways of coaching exclude each other.
+  connect(coachGame_, &QCheckBox::toggled, this, [this](bool on) {
+    run_.screen.coachGame = on;
+    if (on) coachFinish_->setChecked(false);
+  });
+  connect(coachFinish_, &QCheckBox::toggled, this, [this](bool on) {
+    run_.screen.coachFinish = on;
+    if (on) coachGame_->setChecked(false);
+  });
   auto* heading = new QLabel("TODAY'S SCHEDULED GAMES", this);
   heading->setStyleSheet("font-size: 14pt; font-weight: bold;");
   caption_->setStyleSheet("font-weight: bold;");
@@ -73,6 +85,11 @@ SimGamesScreen::SimGamesScreen(Session& session, ScreenHost& host, SeasonRun& ru
   sim_->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(coachGame_);
+  buttons->addWidget(coachFinish_);
+  // The substitution patterns, to be set before a game as during one.
+  buttons->addWidget(AddButton("cmdSubPatterns", "Sub Patterns", [this] {
+    host_.OpenScreen(new SubPatternsScreen(session_, host_));
+  }));
   buttons->addStretch();
   buttons->addWidget(prev_);
   buttons->addWidget(sim_);
@@ -102,6 +119,8 @@ void SimGamesScreen::Refresh() {
   grid_->setVisible(notice.isEmpty() || !day.rows.empty());
   coachGame_->setVisible(day.userPlays);
   coachGame_->setChecked(day.coachGame);
+  coachFinish_->setVisible(day.userPlays);
+  coachFinish_->setChecked(day.coachFinish);
   sim_->setEnabled(day.simEnabled);
   next_->setEnabled(day.nextEnabled);
   prev_->setEnabled(day.prevEnabled);

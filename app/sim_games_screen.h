@@ -33,6 +33,7 @@ class SimGamesScreen : public Screen {
   QLabel* WeekCaption() const { return caption_; }
   QLabel* Notice() const { return notice_; }
   QCheckBox* CoachGame() const { return coachGame_; }
+  QCheckBox* CoachFinish() const { return coachFinish_; }
   QPushButton* SimButton() const { return sim_; }
   QPushButton* NextButton() const { return next_; }
   QPushButton* PrevButton() const { return prev_; }
@@ -50,6 +51,7 @@ class SimGamesScreen : public Screen {
   GridView* grid_;
   QLabel* notice_;
   QCheckBox* coachGame_;
+  QCheckBox* coachFinish_;
   QPushButton* prev_;
   QPushButton* sim_;
   QPushButton* next_;

@@ -81,5 +81,6 @@ void AddTrainCommand(CLI::App& app, CliContext& context);
 void AddDevelopmentCommand(CLI::App& app, CliContext& context);
 void AddDynastyCommand(CLI::App& app, CliContext& context);
 void AddBenchYearCommand(CLI::App& app, CliContext& context);
+void AddLiveCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

@@ -73,6 +73,7 @@ int main(int argc, char** argv) {
   courtmere::cli::AddDevelopmentCommand(app, context);
   courtmere::cli::AddDynastyCommand(app, context);
   courtmere::cli::AddBenchYearCommand(app, context);
+  courtmere::cli::AddLiveCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

@@ -248,11 +248,28 @@ void LiveHalftime(Game& game) {
   game.screen->WaitForResume(game);
 }
 
+// The close finish of a game whose finish the user coaches: the last three
+// minutes of the second half or an overtime, the margin at 8 or less. The
+// screen opens as at the tip, paused with the lineup open.
+void OpenFinishWhenClose(Game& game) {
+  if (game.Half < 2 || game.Clock >= 180) return;
+  const int margin = game.Home().Score - game.Away().Score;
+  if (margin > 8 || margin < -8) return;
+  game.FinishWatch = false;
+  game.LiveGame = 1;
+  game.SubWindow = 1;
+  game.Resume = 0;
+  game.screen->PrepareGame(game);
+}
+
 void PlayPeriods(Game& game, int live) {
   for (game.Half = 1; game.Half <= 7; ++game.Half) {
     ResetPeriod(game);
     StartOfPlay(game);
-    while (PeriodGoesOn(game)) PlayTurn(game);
+    while (PeriodGoesOn(game)) {
+      if (game.FinishWatch) OpenFinishWhenClose(game);
+      PlayTurn(game);
+    }
     RestBetweenPeriods(game);
     if (game.Half < 3 || game.Overtime) RestoreStarters(game);
     AppendPeriodLog(game);

@@ -336,6 +336,10 @@ struct Game {
   int SubWindow = 0;
   int SubForced = 0;
   int Resume = 0;
+  // Coaching the finish: the game runs unattended until the last three
+  // minutes of the second half or of an overtime with the margin at 8 points
+  // or less; then the live screen opens on it (and this turns false).
+  bool FinishWatch = false;
   bool FoulTried = false;
   bool Overtime = false;
   int OfficialTimeouts = 0;

@@ -144,9 +144,13 @@ int Play(Game& game, DayResults& day, const GameRequest& request, std::string& b
   game.CourtEdge = request.CourtEdge;
   LoadCoachValues(game);
   game.LiveGame = request.Live;
+  game.FinishWatch = false;
+  const bool watchFinish = request.Live == 0 && request.CoachFinish == 1 && game.screen != nullptr;
   for (Side side : {Side::Home, Side::Away}) {
     LoadRoster(game, side);
-    if (game.WantsText()) LoadFullTexts(game, side);
+    // The finish's screen names the players: their texts are read now,
+    // while the game is still unattended.
+    if (game.WantsText() || watchFinish) LoadFullTexts(game, side);
   }
   BuildFloor(game);
   game.Home().Team().TeamName = request.HomeTeam;
@@ -156,12 +160,16 @@ int Play(Game& game, DayResults& day, const GameRequest& request, std::string& b
   } else if (game.Home().UserTeam) {
     game.UserSide = Side::Home;
   }
+  game.FinishWatch = watchFinish && game.UserSide.has_value();
 
   if (game.Live()) game.screen->PrepareGame(game);
   StartGame(game, request.Live);
   CopyToDay(game, day, request);
   if (request.KeepLeaders == 1) KeepLeaders(game);
-  if (game.screen != nullptr && request.Live == 1) game.screen->Finish(game);
+  if (game.screen != nullptr && (request.Live == 1 || game.LiveGame == 1)) {
+    game.screen->Finish(game);
+  }
+  game.FinishWatch = false;
   return 1;
 }
 

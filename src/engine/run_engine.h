@@ -17,8 +17,11 @@ struct GameRequest {
   int BatchIndex = 0;    // slot in the day's result tables, 0 to 150
   int GameNo = 0;        // schedule number, used in the file names
   int Live = 0;          // 1: the user coaches the game on the live screen
-  int KeepLeaders = 0;   // 1: keep each side's top scorer and rebounder
-  int CourtEdge = 0;     // signed advantage of the home side
+  // 1: the game runs unattended until its close finish, which the user then
+  // coaches on the live screen (see Game::FinishWatch).
+  int CoachFinish = 0;
+  int KeepLeaders = 0;  // 1: keep each side's top scorer and rebounder
+  int CourtEdge = 0;    // signed advantage of the home side
   // False: write no file at all, not even the box score (benchmarks).
   bool WriteFiles = true;
 };

@@ -50,6 +50,9 @@ struct DayScreen {
   std::vector<std::string> notice;
   bool userPlays = false;  // the coach-this-game box is shown
   bool coachGame = false;  // and ticked: the user's game runs live
+  // Ticked instead: the user's game runs unattended until its close finish,
+  // which he coaches live.
+  bool coachFinish = false;
   bool simEnabled = false;
   bool nextEnabled = false;
   bool prevEnabled = false;

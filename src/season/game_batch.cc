@@ -38,9 +38,10 @@ struct GameOutcome {
 bool PlayGame(SeasonRun& run, GameRequest request, GameFiles files, GameOutcome& out) {
   std::string box;
   std::string log = files.log ? "log" : "none";
-  // The engine writes files only for a game with a log; the box score of
-  // every game that wants one is written below.
-  request.WriteFiles = files.log;
+  // The engine writes files only for a game with a log, or a coached one
+  // (its screen shows the box score of the moment from the file); the box
+  // score of every game that wants one is written below.
+  request.WriteFiles = files.log || request.Live == 1 || request.CoachFinish == 1;
   if (run.runGame(run.game, run.day, request, box, log) != 1) return false;
   if (files.box) {
     const ProgramFolder& folder = run.session.folder;
@@ -126,7 +127,8 @@ void ShowOnTicker(SeasonRun& run, const std::string& home, const std::string& aw
   if (session.config.SimSpeed > 0) run.observer->Wait(session.config.SimSpeed / 10.0);
 }
 
-// One listed game's request: the first row live when the user coaches it.
+// One listed game's request: the first row, the user's game, live when he
+// coaches it or its finish.
 GameRequest ListedRequest(const SeasonRun& run, const DayRow& row, int index) {
   const SeededName home = SeededName::Parse(row.HomeTeam);
   const SeededName away = SeededName::Parse(row.AwayTeam);
@@ -138,7 +140,11 @@ GameRequest ListedRequest(const SeasonRun& run, const DayRow& row, int index) {
   request.GameNo = row.GameNo;
   // Design decision: only the user's own game can run live; the box is
   // hidden on a day he does not play.
-  request.Live = index == 1 && run.screen.userPlays && run.screen.coachGame ? 1 : 0;
+  const std::string& user = run.session.humanSchool;
+  const bool users =
+      index == 1 && run.screen.userPlays && (home.school == user || away.school == user);
+  request.Live = users && run.screen.coachGame ? 1 : 0;
+  request.CoachFinish = users && !run.screen.coachGame && run.screen.coachFinish ? 1 : 0;
   request.KeepLeaders = 1;
   if (run.session.config.CurrWeek == 17 && home.seed > 0 && away.seed > 0) {
     request.CourtEdge = SeedCourtEdge(home.seed, away.seed);

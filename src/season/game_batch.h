@@ -25,8 +25,8 @@ struct SeasonRun;
 // The most games a batch holds before its lines are recorded.
 inline constexpr int kBatchGames = 150;
 
-// Plays the unplayed games of the screen's list in order, the first one
-// live when the box is ticked, with the seeds' court edge in week 17.
+// Plays the unplayed games of the screen's list in order, the user's game
+// (first) live when a coaching box is ticked, with the seeds' court edge in week 17.
 // False when a game could not be played: the day step stops.
 bool SimListedGames(SeasonRun& run);
 

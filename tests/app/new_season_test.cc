@@ -340,7 +340,7 @@ class NewSeasonTest : public QObject {
     auto* screen = Find<SimGamesScreen>(*window_);
     QCOMPARE(screen->WeekCaption()->text(), QString("Week 1, 2001 - Thursday"));
     QVERIFY(!screen->PrevButton()->isEnabled());
-    QVERIFY(!screen->CoachGame()->isEnabled());
+    QVERIFY(screen->CoachGame()->isEnabled());
     for (int day = 0; day < 4; ++day) {
       if (day > 0) screen->NextButton()->click();
       QVERIFY2(SimDayAsUser(*window_, ui_, *screen), ui_.Messages().back().c_str());
