@@ -8,6 +8,7 @@
 #include "league/national_tourneys.h"
 #include "league/start_season.h"
 #include "offseason/begin_offseason.h"
+#include "offseason/career_steps.h"
 #include "offseason/nba_draft.h"
 #include "offseason/train_players.h"
 #include "season/day_screen.h"
