@@ -181,6 +181,7 @@ void MainWindow::RegisterCommands() {
   On("mnuHelpAbout", [this] { ShowAbout(); });
   RegisterSeasonCommands();
   RegisterRecruitCommands();
+  RegisterHistoryCommands();
 }
 
 void MainWindow::On(const char* entry, std::function<void()> command) {

@@ -92,6 +92,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   void RegisterSeasonCommands();
   // The Recruit menu's entries.
   void RegisterRecruitCommands();
+  // The records, history and report entries.
+  void RegisterHistoryCommands();
   // The window's title: the gate's, or the period's caption the running
   // season has set.
   std::string WindowTitle(const std::string& gateTitle) const;

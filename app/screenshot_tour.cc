@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -59,6 +60,13 @@ constexpr const char* kSeasonScreens[][2] = {
 
 // Halfway through the season: the race for the NCT's places.
 constexpr int kBubbleWeek = 10;
+
+// The history of the season, once it has ended.
+constexpr const char* kHistoryScreens[][2] = {
+    {"mnuNationalRecords", "national_records"}, {"mnuManageRecord", "team_records"},
+    {"mnuHistorySchool", "school_history"},     {"mnuHistoryCoach", "coach_history"},
+    {"mnuHeadlinesCoaches", "top_coaches"},     {"mnuHistoryNCT", "nct_history"},
+};
 
 // The screens of the season's end, once the national tournaments have begun.
 constexpr const char* kPostseasonScreens[][2] = {
@@ -113,6 +121,9 @@ class Tour {
     Snap("home_week4");
     PlayOn();
     for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
+    EndTheSeason();
+    for (const auto& [entry, name] : kHistoryScreens) Open(entry, name);
+    ShowPlayerCareer();
     return shots_;
   }
 
@@ -217,6 +228,40 @@ class Tour {
       }
     }
     Snap("sim_games_postseason");
+  }
+
+  // On to the season's end, then End Season as the user runs it.
+  void EndTheSeason() {
+    window_->CloseScreens();
+    window_->RunCommand("mnuSeasonSimGames");
+    auto* games = Find<SimGamesScreen>();
+    for (int step = 0; games && session_->config.Stage == kStageSeason && step < 100; ++step) {
+      if (games->SimButton()->isEnabled()) {
+        SimDayAsUser(*window_, ui_, *games);
+      } else {
+        games->NextDay();
+      }
+    }
+    window_->CloseScreens();
+    Settle();
+    window_->RunCommand("mnuProgressEnd");
+    Settle();
+  }
+
+  // The card of the user's best scorer, with his year's line and ratings.
+  void ShowPlayerCareer() {
+    window_->CloseScreens();
+    Settle();
+    const std::optional<int64_t> id = session_->Db().ScalarInt(
+        "SELECT p.Id FROM Player AS p, PlayerStats AS s WHERE s.Id = p.Id AND p.Team = ? ORDER "
+        "BY s.Points DESC LIMIT 1",
+        session_->humanSchool);
+    if (!id) return;
+    window_->OpenPlayerCard(static_cast<int>(*id));
+    for (Screen* screen : window_->Screens()) {
+      if (auto* pages = screen->findChild<QTabWidget*>("tabPlayerCard")) pages->setCurrentIndex(1);
+    }
+    Snap("player_career");
   }
 
   // The suspensions of the first conference, the user's first, that has any.
