@@ -117,6 +117,24 @@ TEST_F(Reports, TheDraftListAndTheRosterStandInFixedColumns) {
   EXPECT_TRUE(roster[4].ends_with("3.46")) << roster[4];
 }
 
+TEST_F(Reports, TeamStatsComeFromMemoryDuringTheSeasonAndFromTheStoreAfterIt) {
+  const int id = AddPlayer("S. Senior", "Duke", 5);
+  SetSeason(id, {{"Games", 30}, {"Points", 450}, {"PPG", 15}});
+  TeamSeasonLines& team = session().seasonStats.Team(1);
+  team.SchoolName = "Duke";
+  team.Players[1].Id = id;
+  team.Players[1].Games = 31;
+  team.Players[1].Points = 470;
+  SetStage("Season");
+  std::vector<std::string> lines = LinesOf(TeamStatsReport(session(), "Duke"));
+  EXPECT_EQ(lines[0], "2001 Duke STATS");
+  EXPECT_TRUE(lines[4].starts_with("S. Senior        C   31  470 ")) << lines[4];
+  SetStage("End Season");
+  lines = LinesOf(TeamStatsReport(session(), "Duke"));
+  EXPECT_TRUE(lines[4].starts_with("S. Senior        C   30  450 ")) << lines[4];
+  EXPECT_TRUE(lines[8].starts_with("S. Senior        C   30  15.0")) << lines[8];
+}
+
 TEST_F(Reports, AReportOpensWithItsStageAndAnUnwritableFolderIsRefused) {
   SetStage("Post Training");
   EXPECT_TRUE(ReportClosed(session(), ReportKind::kJsb));
