@@ -63,9 +63,10 @@ constexpr int kBubbleWeek = 10;
 
 // The history of the season, once it has ended.
 constexpr const char* kHistoryScreens[][2] = {
-    {"mnuNationalRecords", "national_records"}, {"mnuManageRecord", "team_records"},
-    {"mnuHistorySchool", "school_history"},     {"mnuHistoryCoach", "coach_history"},
-    {"mnuHeadlinesCoaches", "top_coaches"},     {"mnuHistoryNCT", "nct_history"},
+    {"mnuNationalRecords", "national_records"},  {"mnuManageRecord", "team_records"},
+    {"mnuHistorySchool", "school_history"},      {"mnuHistoryCoach", "coach_history"},
+    {"mnuHeadlinesCoaches", "top_coaches"},      {"mnuHistoryNCT", "nct_history"},
+    {"mnuOutputTeamStats", "team_stats_report"},
 };
 
 // The screens of the season's end, once the national tournaments have begun.
