@@ -187,6 +187,7 @@ void MainWindow::RegisterCommands() {
   RegisterOffseasonCommands();
   RegisterRecruitCommands();
   RegisterCareerCommands();
+  RegisterHistoryCommands();
 }
 
 void MainWindow::On(const char* entry, std::function<void()> command) {

@@ -100,6 +100,8 @@ class MainWindow : public QMainWindow, public ScreenHost {
   // Run Draft, Begin Offseason, the training screen, Train Players and the
   // offseason's lists.
   void RegisterOffseasonCommands();
+  // The records, history and report entries.
+  void RegisterHistoryCommands();
   // The window's title: the gate's, or the period's caption the running
   // season has set.
   std::string WindowTitle(const std::string& gateTitle) const;

@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/score_ticker.h"
 #include "app/sim_games_screen.h"
+#include "history/dynasty_history.h"
 #include "recruiting/season_recruiting.h"
 #include "season/auto_sim.h"
 #include "season/end_season.h"
@@ -27,6 +28,9 @@ SeasonRun& MainWindow::Season() {
     season_->observer = ticker_;
     recruiting_ = std::make_shared<SeasonRecruiting>();
     season_->recruiting = recruiting_.get();
+    // The history steps hold no state of their own: one serves every run.
+    static DynastyHistory history;
+    season_->history = &history;
   }
   ticker_->SetUserSchool(session_.humanSchool);
   return *season_;

@@ -101,6 +101,9 @@ const std::vector<MenuEntry>& MenuTree() {
       {"mnuHistoryNCT", "mnuHistory", "&NCT History", ""},
       {"mnuHistoryACT", "mnuHistory", "&ACT History", ""},
       {"mnuHistoryCoach", "mnuHistory", "&Coach History", ""},
+      // Design decision: a school's history (with its alumni) has an entry
+      // of its own, as have the two text reports of a school below.
+      {"mnuHistorySchool", "mnuHistory", "&School History", ""},
 
       {"mnuNews", nullptr, "Ne&ws", ""},
       {"mnuNewsTeamNotes", "mnuNews", "Team &Notes", "Ctrl+U"},
@@ -117,6 +120,8 @@ const std::vector<MenuEntry>& MenuTree() {
       {"mnuOutputDraftJSB", "mnuOutputDraft", "&JSB Draft Pool", ""},
       {"mnuOutputDraftFBB", "mnuOutputDraft", "&FBB Draft Pool", ""},
       {"mnuOutputMochDraft", "mnuOutput", "&NBA Draft", ""},
+      {"mnuOutputTeamStats", "mnuOutput", "&Team Stats File", ""},
+      {"mnuOutputRoster", "mnuOutput", "Team &Roster File", ""},
 
       {"mnuHelp", nullptr, "&Help", ""},
       {"mnuHelpContents", "mnuHelp", "&Contents", ""},

@@ -3,11 +3,14 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "app/grid_model.h"
+#include "app/player_career_view.h"
 #include "screens/display_format.h"
 #include "screens/player_card.h"
+#include "store/session.h"
 
 namespace courtmere::app {
 namespace {
@@ -37,7 +40,8 @@ PlayerCardScreen::PlayerCardScreen(Session& session, ScreenHost& host, int playe
       title_(new QLabel(this)),
       details_(new QLabel(this)),
       grades_(new GridView(new GridModel({"Scouting", "Grade"}, this), false, this)),
-      figures_(new GridView(new GridModel(kFigureHeadings, this), false, this)) {
+      figures_(new GridView(new GridModel(kFigureHeadings, this), false, this)),
+      career_(new PlayerCareerView(session.Db(), playerId, this)) {
   setObjectName("frmPlayerCard");
   title_->setStyleSheet("font-size: 15pt; font-weight: bold;");
   details_->setTextFormat(Qt::RichText);
@@ -52,12 +56,20 @@ PlayerCardScreen::PlayerCardScreen(Session& session, ScreenHost& host, int playe
   auto* middle = new QHBoxLayout;
   middle->addWidget(details_, 1);
   middle->addWidget(grades_, 1);
+  // The card, and his career by year on a page of its own.
+  auto* card = new QWidget(this);
+  auto* cardLayout = new QVBoxLayout(card);
+  cardLayout->addLayout(middle);
+  cardLayout->addWidget(figures_);
+  cardLayout->addStretch();
+  auto* pages = new QTabWidget(this);
+  pages->setObjectName("tabPlayerCard");
+  pages->addTab(card, "Card");
+  pages->addTab(career_, "Career by Year");
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(title_);
-  layout->addLayout(middle);
-  layout->addWidget(figures_);
-  layout->addStretch();
-  resize(720, 420);
+  layout->addWidget(pages, 1);
+  resize(720, 470);
   Refresh();
 }
 
@@ -77,6 +89,7 @@ void PlayerCardScreen::Refresh() {
     details_->clear();
     grades_->Model()->SetRows({});
     figures_->Model()->SetRows({});
+    career_->Refresh();
     return;
   }
   name_ = ToQString(card->Name);
@@ -99,6 +112,7 @@ void PlayerCardScreen::Refresh() {
   figures.push_back(FigureRow("Season", card->Season.value_or(StatLine{})));
   figures.push_back(FigureRow("Career", card->Career.value_or(StatLine{})));
   figures_->Model()->SetRows(std::move(figures));
+  career_->Refresh();
 }
 
 }  // namespace courtmere::app

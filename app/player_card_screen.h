@@ -9,6 +9,7 @@ class QLabel;
 namespace courtmere::app {
 
 class GridView;
+class PlayerCareerView;
 
 class PlayerCardScreen : public Screen {
   Q_OBJECT
@@ -27,6 +28,7 @@ class PlayerCardScreen : public Screen {
   QLabel* details_;
   GridView* grades_;
   GridView* figures_;
+  PlayerCareerView* career_;
 };
 
 }  // namespace courtmere::app

@@ -65,6 +65,14 @@ constexpr const char* kSeasonScreens[][2] = {
 // Halfway through the season: the race for the NCT's places.
 constexpr int kBubbleWeek = 10;
 
+// The history of the season, once it has ended.
+constexpr const char* kHistoryScreens[][2] = {
+    {"mnuNationalRecords", "national_records"},  {"mnuManageRecord", "team_records"},
+    {"mnuHistorySchool", "school_history"},      {"mnuHistoryCoach", "coach_history"},
+    {"mnuHeadlinesCoaches", "top_coaches"},      {"mnuHistoryNCT", "nct_history"},
+    {"mnuOutputTeamStats", "team_stats_report"},
+};
+
 // The screens of the season's end, once the national tournaments have begun.
 constexpr const char* kPostseasonScreens[][2] = {
     {"mnuNationalCRI", "cri"},
@@ -125,6 +133,8 @@ class Tour {
     for (const auto& [entry, name] : kPostseasonScreens) Open(entry, name);
     EndTheSeason();
     Open("mnuNewsRecruitSignings", "recruit_signings");
+    for (const auto& [entry, name] : kHistoryScreens) Open(entry, name);
+    ShowPlayerCareer();
     return shots_;
   }
 
@@ -270,12 +280,12 @@ class Tour {
     Snap("sim_games_postseason");
   }
 
-  // The last days to Season Over, then End Season: the recruits sign.
+  // On to the season's end, then End Season as the user runs it.
   void EndTheSeason() {
     window_->CloseScreens();
     window_->RunCommand("mnuSeasonSimGames");
     auto* games = Find<SimGamesScreen>();
-    for (int step = 0; games && session_->config.Stage != kStageSeasonOver && step < 100; ++step) {
+    for (int step = 0; games && session_->config.Stage == kStageSeason && step < 100; ++step) {
       if (games->SimButton()->isEnabled()) {
         SimDayAsUser(*window_, ui_, *games);
       } else {
@@ -283,8 +293,25 @@ class Tour {
       }
     }
     window_->CloseScreens();
+    Settle();
     window_->RunCommand("mnuProgressEnd");
     Settle();
+  }
+
+  // The card of the user's best scorer, with his year's line and ratings.
+  void ShowPlayerCareer() {
+    window_->CloseScreens();
+    Settle();
+    const std::optional<int64_t> id = session_->Db().ScalarInt(
+        "SELECT p.Id FROM Player AS p, PlayerStats AS s WHERE s.Id = p.Id AND p.Team = ? ORDER "
+        "BY s.Points DESC LIMIT 1",
+        session_->humanSchool);
+    if (!id) return;
+    window_->OpenPlayerCard(static_cast<int>(*id));
+    for (Screen* screen : window_->Screens()) {
+      if (auto* pages = screen->findChild<QTabWidget*>("tabPlayerCard")) pages->setCurrentIndex(1);
+    }
+    Snap("player_career");
   }
 
   // The suspensions of the first conference, the user's first, that has any.

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "cli_ui.h"
+#include "history/dynasty_history.h"
 #include "recruiting/season_recruiting.h"
 #include "refusal.h"
 #include "store/session.h"
@@ -23,6 +24,8 @@ struct CliContext {
   // The recruiting the season's run plugs in (its period lives as long as
   // the command).
   SeasonRecruiting recruiting;
+  // The history steps End Season runs.
+  DynastyHistory history;
 
   // Builds the session and runs the program's start-up (the store is open
   // afterwards). With a dynasty in the store, the random stream is the
@@ -82,5 +85,11 @@ void AddDevelopmentCommand(CLI::App& app, CliContext& context);
 void AddDynastyCommand(CLI::App& app, CliContext& context);
 void AddBenchYearCommand(CLI::App& app, CliContext& context);
 void AddLiveCommand(CLI::App& app, CliContext& context);
+void AddRecordsCommand(CLI::App& app, CliContext& context);
+void AddHistoryCommand(CLI::App& app, CliContext& context);
+void AddCoachCommand(CLI::App& app, CliContext& context);
+void AddTopCoachesCommand(CLI::App& app, CliContext& context);
+void AddPlayerCommand(CLI::App& app, CliContext& context);
+void AddExportCommand(CLI::App& app, CliContext& context);
 
 }  // namespace courtmere::cli

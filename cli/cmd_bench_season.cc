@@ -93,6 +93,8 @@ void RunBenchSeason(CliContext& context) {
   SeasonRun run(session);
   SeasonRecruiting recruiting;
   run.recruiting = &recruiting;
+  DynastyHistory history;
+  run.history = &history;
   run.cpuSetsUserTeam = true;
   const auto start = std::chrono::steady_clock::now();
   const int days = PlaySeason(run);

@@ -74,6 +74,12 @@ int main(int argc, char** argv) {
   courtmere::cli::AddDynastyCommand(app, context);
   courtmere::cli::AddBenchYearCommand(app, context);
   courtmere::cli::AddLiveCommand(app, context);
+  courtmere::cli::AddRecordsCommand(app, context);
+  courtmere::cli::AddHistoryCommand(app, context);
+  courtmere::cli::AddCoachCommand(app, context);
+  courtmere::cli::AddTopCoachesCommand(app, context);
+  courtmere::cli::AddPlayerCommand(app, context);
+  courtmere::cli::AddExportCommand(app, context);
 
   // Every refusal and failure ends here: its message on standard error and
   // the status 2. A command that has stored its work and then failed at a

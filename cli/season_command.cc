@@ -13,6 +13,7 @@ std::unique_ptr<SeasonRun> ResumeSeasonRun(CliContext& context) {
   ResumeSeason(session);
   auto run = std::make_unique<SeasonRun>(session);
   run->recruiting = &context.recruiting;
+  run->history = &context.history;
   run->keepWithDay = [](Session& s) { SaveSeasonStats(s); };
   return run;
 }

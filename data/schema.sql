@@ -723,7 +723,9 @@ CREATE TABLE CareerPlayerStats (
   MPG REAL DEFAULT 0,
   FGPercent REAL DEFAULT 0,
   ThreePercent REAL DEFAULT 0,
-  FTPercent REAL DEFAULT 0
+  FTPercent REAL DEFAULT 0,
+  Fouls INTEGER DEFAULT 0,
+  PlusMinus INTEGER DEFAULT 0
 ) STRICT;
 
 CREATE TABLE PlayerYearStats (
@@ -740,6 +742,12 @@ CREATE TABLE PlayerYearStats (
   ThreePercent REAL DEFAULT 0,
   FTPercent REAL DEFAULT 0,
   PlusMinus REAL DEFAULT 0,
+  Overall REAL DEFAULT 0,
+  Jumpshot INTEGER DEFAULT 0,
+  InScoring INTEGER DEFAULT 0,
+  Handling INTEGER DEFAULT 0,
+  Passing INTEGER DEFAULT 0,
+  PerrDefense INTEGER DEFAULT 0,
   PRIMARY KEY (PlayerId, Year)
 ) STRICT;
 
@@ -1143,3 +1151,20 @@ CREATE INDEX NonConfScheduleGameNo ON NonConfSchedule (GameNo);
 INSERT INTO Config (IdConfig, CurrWeek, CurrDay, CurrYear, Stage, NextId, NumRecruits, NumPlayers,
                     PlayByPlay, Autosave, SimSpeed, MaxGameNo)
 VALUES (0, 1, 'Thursday', 2001, 'Post Training', 1, 0, 0, 0, 0, 5, 0);
+
+-- A school's seasons, one row a year, written when the season ends: its
+-- record, its final poll rank and how far it went in the NCT or the ACT.
+CREATE TABLE TeamHistory (
+  SchoolName TEXT,
+  Year INTEGER,
+  Wins INTEGER DEFAULT 0,
+  Losses INTEGER DEFAULT 0,
+  ConfWins INTEGER DEFAULT 0,
+  ConfLosses INTEGER DEFAULT 0,
+  PollRank INTEGER DEFAULT 0,
+  ConfChamp INTEGER DEFAULT 0,
+  NCTRecord TEXT,
+  ACTRecord TEXT,
+  Summary TEXT,
+  PRIMARY KEY (SchoolName, Year)
+) STRICT;

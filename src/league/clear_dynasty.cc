@@ -37,6 +37,7 @@ void ClearDynasty(Store& store) {
   store.Exec("DELETE FROM NonConfSchedule WHERE GameNo > 0");
   store.Exec("UPDATE Cities SET Second = 0, Regional = 0, Final = 0 WHERE Id > 0");
   Empty(store, {"Coach", "Scout", "Trainer", "HeadCoach", "AwardWinners", "WeekAward"});
+  Empty(store, {"TeamHistory"});
   tx.Commit();
 }
 

@@ -184,6 +184,18 @@ void UpgradeStore(Session& session, const PlayerGrader& gradeAllPlayers) {
   RetypeWeekDecision(store);
   // Saves made before a change of job was kept for the year.
   AddColumnIfMissing(store, "HeadCoach", "JobYear", "INTEGER DEFAULT 0");
+  // Saves made before careers kept fouls and plus-minus, before a year's
+  // line kept the player's ratings, and before a school's seasons were kept
+  // year by year.
+  AddColumnIfMissing(store, "CareerPlayerStats", "Fouls", "INTEGER DEFAULT 0");
+  AddColumnIfMissing(store, "CareerPlayerStats", "PlusMinus", "INTEGER DEFAULT 0");
+  AddColumnIfMissing(store, "PlayerYearStats", "Overall", "REAL DEFAULT 0");
+  for (const char* rating : {"Jumpshot", "InScoring", "Handling", "Passing", "PerrDefense"}) {
+    AddColumnIfMissing(store, "PlayerYearStats", rating, "INTEGER DEFAULT 0");
+  }
+  if (!store.TableExists("TeamHistory")) {
+    store.ExecScript(SchemaStatement("CREATE TABLE TeamHistory ("));
+  }
   if (!HasOldLayout(store)) return;
   if (!gradeAllPlayers) {
     throw StoreError("A store of the old layout needs its players graded anew");
