@@ -10,11 +10,13 @@
 #include <ctime>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
 #include "bench_support.h"
 #include "cli_context.h"
+#include "history/dynasty_history.h"
 #include "league/start_season.h"
 #include "offseason/career_steps.h"
 #include "offseason/dynasty_year.h"
@@ -69,22 +71,22 @@ struct StageTime {
 };
 
 // One command of the year, its time added to the stage it started from.
-void TimedStage(SeasonRun& run, std::map<std::string, StageTime>& stages) {
+void TimedStage(SeasonRun& run, CareerSteps& career, std::map<std::string, StageTime>& stages) {
   const std::string stage = run.session.config.Stage;
   const auto start = std::chrono::steady_clock::now();
   const std::clock_t cpu = std::clock();
-  if (!AdvanceStage(run, CoachCareer())) throw std::runtime_error("stopped in " + stage);
+  if (!AdvanceStage(run, career)) throw std::runtime_error("stopped in " + stage);
   StageTime& time = stages[stage];
   time.wall += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   time.processor += static_cast<double>(std::clock() - cpu) / CLOCKS_PER_SEC;
 }
 
 // The year as PlayYear runs it, stage by stage.
-void PlayTimedYear(SeasonRun& run, std::map<std::string, StageTime>& stages) {
+void PlayTimedYear(SeasonRun& run, CareerSteps& career, std::map<std::string, StageTime>& stages) {
   const Config& c = run.session.config;
-  if (c.Stage == kStagePostTraining) TimedStage(run, stages);
-  while (c.Stage != kStagePostTraining) TimedStage(run, stages);
-  TimedStage(run, stages);
+  if (c.Stage == kStagePostTraining) TimedStage(run, career, stages);
+  while (c.Stage != kStagePostTraining) TimedStage(run, career, stages);
+  TimedStage(run, career, stages);
 }
 
 void RunBenchYear(CliContext& context) {
@@ -97,11 +99,14 @@ void RunBenchYear(CliContext& context) {
   recruiting.SetUserRecruitsAsComputer(true);
   run.recruiting = &recruiting;
   run.cpuSetsUserTeam = true;
+  DynastyHistory history;
+  run.history = &history;
+  const std::unique_ptr<CareerSteps> career = HeadlessCareer(CoachPolicy::kStay);
   double total = 0;
   std::map<std::string, StageTime> stages;
   for (int y = 1; y <= kYears; ++y) {
     const auto start = std::chrono::steady_clock::now();
-    PlayTimedYear(run, stages);
+    PlayTimedYear(run, *career, stages);
     const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     total += seconds;

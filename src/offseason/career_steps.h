@@ -25,6 +25,9 @@ class CareerSteps {
   // A headless coach's answer to the job list, after the draft and before
   // the offseason begins; the desktop's user answers it himself.
   virtual void ChooseJob(Session&) {}
+  // A headless coach fills the places his staff lost before Start Season;
+  // the desktop's user hires on the staff screens himself.
+  virtual void FillStaff(Session&) {}
 };
 
 // The career library's steps.

@@ -66,6 +66,7 @@ bool AdvanceStage(SeasonRun& run, CareerSteps& career) {
   }
   if (stage == kStageBeginOffSeason) return TrainPlayers(session, career);
   if (stage == kStagePostTraining) {
+    career.FillStaff(session);
     if (StartSeason(session) != SeasonStart::kStarted) return false;
     LoadSeasonStats(session);
     return true;

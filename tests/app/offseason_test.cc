@@ -12,6 +12,8 @@
 #include "app/main_window.h"
 #include "app/offseason_lists_screen.h"
 #include "app/play_steps.h"
+#include "app/staff_screen.h"
+#include "app/grid_model.h"
 #include "app/training_screen.h"
 #include "cpu/computer_roster.h"
 #include "league/dynasty_fixture.h"
@@ -125,6 +127,7 @@ class OffseasonTest : public QObject {
     Screenshot(window_.get(), "development_report");
     QCOMPARE(Count("SELECT max(Year) FROM CoachHistory"), year);
     QVERIFY(!Open("mnuOffSeasonTrain"));
+    FillCoachingStaff();
     QVERIFY(Open("mnuOffSeasonStart"));
     Trigger("mnuOffSeasonStart");
     QCOMPARE(Stage(), std::string(kStageSeason));
@@ -132,6 +135,19 @@ class OffseasonTest : public QObject {
   }
 
  private:
+  // A coach who left for a head coaching job is replaced on the hire
+  // screen, as the user must before Start Season.
+  void FillCoachingStaff() {
+    while (Count("SELECT count(*) FROM Coach WHERE Team = 'St. John''s'") < 3) {
+      Trigger("mnuStaffHireCoaches");
+      auto* staff = Find<StaffScreen>(*window_);
+      QVERIFY(staff && staff->Candidates() && staff->Candidates()->Model()->rowCount() > 0);
+      staff->Candidates()->selectRow(0);
+      staff->Hire();
+      window_->CloseScreens();
+    }
+  }
+
   Session& session() { return dynasty_->session(); }
   ScriptedUi& ui() { return dynasty_->ui(); }
   std::string Stage() { return *session().Db().ScalarText("SELECT Stage FROM Config"); }
