@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "cli_context.h"
-#include "offseason/nba_draft.h"
 #include "offseason/career_steps.h"
+#include "offseason/nba_draft.h"
 #include "offseason_command.h"
 #include "screens/draft_list.h"
 #include "text_table.h"

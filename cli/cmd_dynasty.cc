@@ -11,9 +11,8 @@
 #include <memory>
 #include <stdexcept>
 
-#include "league/head_coach.h"
-#include "offseason/dynasty_year.h"
 #include "offseason/career_steps.h"
+#include "offseason/dynasty_year.h"
 #include "offseason_command.h"
 #include "season/season_session.h"
 #include "season_command.h"
@@ -39,7 +38,6 @@ void RunDynasty(CliContext& context, const DynastyOptions& options) {
   context.recruiting.SetUserRecruitsAsComputer(options.userRecruits);
   const std::unique_ptr<CareerSteps> career = HeadlessCareer(options.policy);
   Session& session = run->session;
-  const std::string school = HumanSchool(session.Db());
   for (int y = 1; y <= years; ++y) {
     context.ui.BeginRun(fmt::format("Year {} of {}", y, years));
     YearSummary summary;
@@ -50,10 +48,14 @@ void RunDynasty(CliContext& context, const DynastyOptions& options) {
       Refuse(fmt::format("Year {} of {}: {}.", y, years, e.what()));
     }
     context.ui.EndRun();
-    fmt::print("{}: champion {}; {} {}-{}; class rank {}\n", summary.year,
-               summary.champion.empty() ? "-" : summary.champion, school, summary.wins,
+    std::string career;
+    if (summary.fired) career += "; fired";
+    if (!summary.moved.empty()) career += "; moves to " + summary.moved;
+    fmt::print("{}: champion {}; {} {}-{}; class rank {}{}\n", summary.year,
+               summary.champion.empty() ? "-" : summary.champion, summary.school, summary.wins,
                summary.losses,
-               summary.classRank == 0 ? std::string("-") : std::to_string(summary.classRank));
+               summary.classRank == 0 ? std::string("-") : std::to_string(summary.classRank),
+               career);
     std::fflush(stdout);
   }
   const Config& c = session.config;

@@ -4,8 +4,8 @@
 #include <fmt/format.h>
 
 #include "cli_context.h"
-#include "offseason/train_players.h"
 #include "offseason/career_steps.h"
+#include "offseason/train_players.h"
 #include "offseason_command.h"
 
 namespace courtmere::cli {

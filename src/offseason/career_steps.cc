@@ -26,8 +26,8 @@ void FillPost(Session& session, Post post) {
   Store& store = session.Db();
   const std::string table = PostTable(post);
   const std::string school = session.humanSchool;
-  while (store.ScalarInt("SELECT count(*) FROM " + table + " WHERE Team = ?", school)
-             .value_or(0) < PostPlaces(post)) {
+  while (store.ScalarInt("SELECT count(*) FROM " + table + " WHERE Team = ?", school).value_or(0) <
+         PostPlaces(post)) {
     const std::optional<int64_t> id = store.ScalarInt(
         "SELECT Id FROM " + table + " WHERE lower(Team) = lower(?) ORDER BY Salary DESC, Id",
         CandidateTeam(school));

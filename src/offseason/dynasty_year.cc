@@ -14,7 +14,6 @@
 #include "season/day_screen.h"
 #include "season/day_step.h"
 #include "season/end_season.h"
-#include "season/schedule_tables.h"
 #include "season/season_run.h"
 #include "store/dynasty_seed.h"
 #include "store/season_stats.h"
@@ -35,17 +34,14 @@ bool PlayToSeasonOver(SeasonRun& run) {
 
 void ReadRecord(Session& session, YearSummary& summary) {
   Store& store = session.Db();
-  const std::string school = HumanSchool(store);
-  for (const std::string& table : SeasonScheduleTables(store)) {
-    Rows r = store.Query(
-        "SELECT total((HomeTeam = ?1 AND HomeScore > AwayScore) OR (AwayTeam = ?1 AND AwayScore > "
-        "HomeScore)), total((HomeTeam = ?1 AND HomeScore < AwayScore) OR (AwayTeam = ?1 AND "
-        "AwayScore < HomeScore)) FROM " +
-            table + " WHERE HomeScore > 0",
-        school);
-    if (!r.Next()) continue;
-    summary.wins += r.Int(0);
-    summary.losses += r.Int(1);
+  summary.school = HumanSchool(store);
+  // The season's record as the school's statistics keep it, the
+  // tournaments' games included.
+  Rows r = store.Query("SELECT TotalWins, TotalLosses FROM TeamStats WHERE SchoolName = ?",
+                       summary.school);
+  if (r.Next()) {
+    summary.wins = r.Int(0);
+    summary.losses = r.Int(1);
   }
   summary.champion = NctChampion(store).value_or("");
   summary.year = session.config.CurrYear;
@@ -89,6 +85,16 @@ YearSummary PlayYear(SeasonRun& run, CareerSteps& career) {
   while (session.config.Stage != kStagePostTraining) {
     if (session.config.Stage == kStageSeasonOver) ReadRecord(session, summary);
     advance();
+    if (session.config.Stage == kStageNbaDraft) {
+      summary.fired = session.Db()
+                          .ScalarText("SELECT Team FROM HeadCoach LIMIT 1")
+                          .value_or("")
+                          .starts_with("Fired-");
+    }
+  }
+  if (const std::string now = HumanSchool(session.Db());
+      !summary.school.empty() && now != summary.school) {
+    summary.moved = now;
   }
   advance();
   // The class that has just joined, as Start Season ranks it.

@@ -17,6 +17,9 @@ class CareerSteps;
 struct YearSummary {
   int year = 0;          // the season played (the CurrYear it ended with)
   std::string champion;  // the NCT's; empty if the final was not played
+  std::string school;    // the user's school that season
+  bool fired = false;    // the board fired him after the draft
+  std::string moved;     // the school he took after the draft, if any
   int wins = 0;
   int losses = 0;
   int classRank = 0;  // the rank of the user's new class; 0 outside the top 10

@@ -9,11 +9,11 @@
 #include <QtTest>
 #include <memory>
 
+#include "app/grid_model.h"
 #include "app/main_window.h"
 #include "app/offseason_lists_screen.h"
 #include "app/play_steps.h"
 #include "app/staff_screen.h"
-#include "app/grid_model.h"
 #include "app/training_screen.h"
 #include "cpu/computer_roster.h"
 #include "league/dynasty_fixture.h"

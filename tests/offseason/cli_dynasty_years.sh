@@ -84,9 +84,12 @@ for year in 2003 2004; do
                AND Team IN (SELECT SchoolName FROM Team)")
   [[ -n $seniors ]] || fail "no leavers marked before $year"
   run 0 --home "$work/a" dynasty --years 1
-  expect_line "^$year: champion .+; St. John's [0-9]+-[0-9]+; class rank ([0-9]+|-)$"
+  expect_line "^$year: champion .+; St. John's [0-9]+-[0-9]+; class rank ([0-9]+|-)(; fired)?(; moves to .+)?$"
   check_year "$year" "$seniors"
 done
+
+run 2 --home "$work/a" dynasty --years 1 --coach-policy sideways
+run 2 --home "$work/a" dynasty --years 1 --user-recruiting lots
 
 # The draft and the development report of the last year.
 run 0 --home "$work/a" draft --show
