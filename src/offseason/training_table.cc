@@ -110,26 +110,22 @@ void SetTrainingPoints(Store& store, const Player& player) {
 
 void TrainCPUPlayers(Store& store) {
   std::vector<Player> players;
-  for (Rows rows = store.Query(
-           "SELECT Player.Id, PlayerPosition, Intelligence FROM Player, Team WHERE Player.Team = "
-           "Team.SchoolName AND Team.Owner <> 'Human' ORDER BY Player.Id");
-       rows.Next();) {
-    Player p;
-    p.Id = rows.Int(0);
-    p.PlayerPosition = rows.Int(1);
-    p.Intelligence = rows.Int(2);
-    players.push_back(p);
-  }
-  for (Rows rows = store.Query(
-           "SELECT Id, PlayerPosition, Intelligence FROM Player WHERE PlayerYear = 'JCRecruit' "
-           "ORDER BY Id");
-       rows.Next();) {
-    Player p;
-    p.Id = rows.Int(0);
-    p.PlayerPosition = rows.Int(1);
-    p.Intelligence = rows.Int(2);
-    players.push_back(p);
-  }
+  auto read = [&](Rows rows) {
+    while (rows.Next()) {
+      Player p;
+      p.Id = rows.Int(0);
+      p.PlayerPosition = rows.Int(1);
+      p.Intelligence = rows.Int(2);
+      players.push_back(p);
+    }
+  };
+  // The computer teams' men, then the junior-college prospects.
+  read(store.Query(
+      "SELECT Player.Id, PlayerPosition, Intelligence FROM Player, Team WHERE Player.Team = "
+      "Team.SchoolName AND Team.Owner <> 'Human' ORDER BY Player.Id"));
+  read(store.Query(
+      "SELECT Id, PlayerPosition, Intelligence FROM Player WHERE PlayerYear = 'JCRecruit' ORDER "
+      "BY Id"));
   for (const Player& p : players) SetTrainingPoints(store, p);
 }
 
