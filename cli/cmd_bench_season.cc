@@ -9,18 +9,13 @@
 #include <chrono>
 #include <stdexcept>
 
-#include "bench_support.h"
+#include "bench_dynasty.h"
 #include "cli_context.h"
 #include "league/start_season.h"
-#include "platform/scripted_ui.h"
-#include "recruiting/season_recruiting.h"
-#include "screens/new_dynasty_run.h"
 #include "season/day_screen.h"
 #include "season/day_step.h"
 #include "season/schedule_tables.h"
 #include "season/season_run.h"
-#include "store/blank_store.h"
-#include "store/menu_gate.h"
 #include "store/season_stats.h"
 
 namespace courtmere::cli {
@@ -28,23 +23,6 @@ namespace courtmere::cli {
 namespace {
 
 constexpr uint64_t kSeasonBenchSeed = 20021;
-
-void OpenDynasty(Session& session) {
-  BuildBlankStore(session.folder.Store());
-  session.store = std::make_unique<Store>(session.folder.Store());
-  NewDynastyRequest request;
-  request.conferences = {"MVC", "WAC", "Atlantic 10"};
-  request.school = "St. John's";
-  request.coach = "D'Angelo O'Neil";
-  if (!RunNewDynasty(session, request)) throw std::runtime_error("File > New was refused");
-  MenuGate(session);
-  if (StartSeason(session) != SeasonStart::kStarted) {
-    throw std::runtime_error("Start Season was refused");
-  }
-  // Box scores off: the season's games write no files.
-  session.Db().Exec("UPDATE Config SET NumPlayers = 0 WHERE IdConfig = 0");
-  session.config.NumPlayers = 0;
-}
 
 // Plays day after day until the season is over; returns the days played.
 int PlaySeason(SeasonRun& run) {
@@ -86,16 +64,12 @@ void SignPoll(Store& store, Signature& signature) {
 }
 
 void RunBenchSeason(CliContext& context) {
-  ScratchFolder folder;
-  ScriptedUi ui;
-  Session session(ProgramFolder(folder.Path()), Rng(context.seed.value_or(kSeasonBenchSeed)), ui);
-  OpenDynasty(session);
-  SeasonRun run(session);
-  SeasonRecruiting recruiting;
-  run.recruiting = &recruiting;
-  DynastyHistory history;
-  run.history = &history;
-  run.cpuSetsUserTeam = true;
+  BenchDynasty dynasty(context.seed.value_or(kSeasonBenchSeed));
+  Session& session = dynasty.session;
+  if (StartSeason(session) != SeasonStart::kStarted) {
+    throw std::runtime_error("Start Season was refused");
+  }
+  SeasonRun& run = dynasty.run;
   const auto start = std::chrono::steady_clock::now();
   const int days = PlaySeason(run);
   const double seconds =

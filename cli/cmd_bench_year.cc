@@ -14,18 +14,12 @@
 #include <stdexcept>
 #include <string>
 
-#include "bench_support.h"
+#include "bench_dynasty.h"
 #include "cli_context.h"
-#include "history/dynasty_history.h"
 #include "league/start_season.h"
 #include "offseason/career_steps.h"
 #include "offseason/dynasty_year.h"
-#include "platform/scripted_ui.h"
-#include "recruiting/season_recruiting.h"
-#include "screens/new_dynasty_run.h"
 #include "season/season_run.h"
-#include "store/blank_store.h"
-#include "store/menu_gate.h"
 
 namespace courtmere::cli {
 
@@ -33,19 +27,6 @@ namespace {
 
 constexpr uint64_t kYearBenchSeed = 20026;
 constexpr int kYears = 3;
-
-void OpenDynasty(Session& session) {
-  BuildBlankStore(session.folder.Store());
-  session.store = std::make_unique<Store>(session.folder.Store());
-  NewDynastyRequest request;
-  request.conferences = {"MVC", "WAC", "Atlantic 10"};
-  request.school = "St. John's";
-  request.coach = "D'Angelo O'Neil";
-  if (!RunNewDynasty(session, request)) throw std::runtime_error("File > New was refused");
-  MenuGate(session);
-  session.Db().Exec("UPDATE Config SET NumPlayers = 0 WHERE IdConfig = 0");
-  session.config.NumPlayers = 0;
-}
 
 void SignStore(Store& store, Signature& signature) {
   for (Rows r = store.Query(
@@ -90,17 +71,10 @@ void PlayTimedYear(SeasonRun& run, CareerSteps& career, std::map<std::string, St
 }
 
 void RunBenchYear(CliContext& context) {
-  ScratchFolder folder;
-  ScriptedUi ui;
-  Session session(ProgramFolder(folder.Path()), Rng(context.seed.value_or(kYearBenchSeed)), ui);
-  OpenDynasty(session);
-  SeasonRun run(session);
-  SeasonRecruiting recruiting;
-  recruiting.SetUserRecruitsAsComputer(true);
-  run.recruiting = &recruiting;
-  run.cpuSetsUserTeam = true;
-  DynastyHistory history;
-  run.history = &history;
+  BenchDynasty dynasty(context.seed.value_or(kYearBenchSeed));
+  Session& session = dynasty.session;
+  SeasonRun& run = dynasty.run;
+  dynasty.recruiting.SetUserRecruitsAsComputer(true);
   const std::unique_ptr<CareerSteps> career = HeadlessCareer(CoachPolicy::kStay);
   double total = 0;
   std::map<std::string, StageTime> stages;
