@@ -119,4 +119,14 @@ int GridView::SelectedRow() const {
   return rows.isEmpty() ? -1 : ModelRow(rows.first());
 }
 
+GridView* RowPickGrid(const QStringList& headings, QWidget* parent, const char* name) {
+  auto* grid = new GridView(new GridModel(headings, parent), false, parent);
+  grid->setObjectName(name);
+  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  grid->setSelectionMode(QAbstractItemView::SingleSelection);
+  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+  return grid;
+}
+
 }  // namespace courtmere::app

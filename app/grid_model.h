@@ -82,4 +82,8 @@ class GridView : public QTableView {
   QSortFilterProxyModel* proxy_;
 };
 
+// An unsorted table whose rows are picked one at a time (the staff and
+// candidate lists), its first column taking the spare width.
+GridView* RowPickGrid(const QStringList& headings, QWidget* parent, const char* name);
+
 }  // namespace courtmere::app

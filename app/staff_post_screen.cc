@@ -17,13 +17,7 @@ namespace {
 GridView* PostGrid(QWidget* parent, Post post, const char* name) {
   QStringList headings;
   for (const std::string& column : PostColumns(post)) headings << ToQString(column);
-  auto* grid = new GridView(new GridModel(headings, parent), false, parent);
-  grid->setObjectName(name);
-  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grid->setSelectionMode(QAbstractItemView::SingleSelection);
-  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  return grid;
+  return RowPickGrid(headings, parent, name);
 }
 
 void Fill(GridView* grid, const std::vector<PostRow>& men) {

@@ -23,13 +23,7 @@ QStringList Headings() {
 }
 
 GridView* StaffGrid(QWidget* parent, const char* name) {
-  auto* grid = new GridView(new GridModel(Headings(), parent), false, parent);
-  grid->setObjectName(name);
-  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grid->setSelectionMode(QAbstractItemView::SingleSelection);
-  grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  return grid;
+  return RowPickGrid(Headings(), parent, name);
 }
 
 void Fill(GridView* grid, const std::vector<StaffRow>& staff) {

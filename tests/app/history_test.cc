@@ -45,10 +45,7 @@ class HistoryTest : public QObject {
     SetCoachRoles(session, session.humanSchool);
     // The season's figures in memory, as a load of the started season has them.
     ResumeSeason(session);
-    window_ = std::make_unique<MainWindow>(session);
-    window_->resize(1300, 900);
-    window_->show();
-    window_->RunGate();
+    window_ = testing::ShowMainWindow(session);
     ChooseQuickestTicker(session, *window_);
     LetComputerSetLineup(*window_, dynasty_->ui());
     window_->CloseScreens();

@@ -49,10 +49,7 @@ class OffseasonTest : public QObject {
     run.cpuSetsUserTeam = true;
     QVERIFY(AdvanceStage(run, CoachCareer()));
     QCOMPARE(session.config.Stage, std::string(kStageSeasonOver));
-    window_ = std::make_unique<MainWindow>(session);
-    window_->resize(1300, 900);
-    window_->show();
-    window_->RunGate();
+    window_ = testing::ShowMainWindow(session);
   }
   void cleanupTestCase() {
     dynasty_->session().quitting = true;

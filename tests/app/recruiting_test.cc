@@ -50,10 +50,7 @@ class RecruitingTest : public QObject {
     MenuGate(session);
     QVERIFY(StartSeason(session) == SeasonStart::kStarted);
     SetCoachRoles(session, session.humanSchool);
-    window_ = std::make_unique<MainWindow>(session);
-    window_->resize(1300, 900);
-    window_->show();
-    window_->RunGate();
+    window_ = testing::ShowMainWindow(session);
   }
   void cleanupTestCase() {
     dynasty_->session().quitting = true;

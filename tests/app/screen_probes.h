@@ -1,8 +1,9 @@
 // What the window tests read from open screens: the first screen of a class,
-// and the texts of a grid's column.
+// the texts of a grid's column, and the main window as the tests show it.
 #pragma once
 
 #include <QStringList>
+#include <memory>
 
 #include "app/grid_model.h"
 #include "app/main_window.h"
@@ -24,6 +25,15 @@ inline QStringList Column(app::GridView* grid, int column) {
     cells << grid->Model()->Cell(row, column).text;
   }
   return cells;
+}
+
+// The main window on a session at the tests' size, shown and gated.
+inline std::unique_ptr<app::MainWindow> ShowMainWindow(Session& session) {
+  auto window = std::make_unique<app::MainWindow>(session);
+  window->resize(1300, 900);
+  window->show();
+  window->RunGate();
+  return window;
 }
 
 }  // namespace courtmere::testing
