@@ -25,6 +25,7 @@
 #include "screen_probes.h"
 #include "screenshots.h"
 #include "season/season_session.h"
+#include "started_season.h"
 #include "store/menu_gate.h"
 
 namespace courtmere::app {
@@ -38,11 +39,8 @@ class HistoryTest : public QObject {
 
  private slots:
   void initTestCase() {
-    dynasty_ = std::make_unique<testing::DynastyFixture>();
+    dynasty_ = testing::StartedSeason();
     Session& session = dynasty_->session();
-    MenuGate(session);
-    QVERIFY(StartSeason(session) == SeasonStart::kStarted);
-    SetCoachRoles(session, session.humanSchool);
     // The season's figures in memory, as a load of the started season has them.
     ResumeSeason(session);
     window_ = testing::ShowMainWindow(session);

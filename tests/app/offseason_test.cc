@@ -24,6 +24,7 @@
 #include "screen_probes.h"
 #include "screenshots.h"
 #include "season/season_run.h"
+#include "started_season.h"
 #include "store/menu_gate.h"
 #include "store/session.h"
 
@@ -37,11 +38,8 @@ class OffseasonTest : public QObject {
 
  private slots:
   void initTestCase() {
-    dynasty_ = std::make_unique<testing::DynastyFixture>();
+    dynasty_ = testing::StartedSeason();
     Session& session = dynasty_->session();
-    MenuGate(session);
-    QVERIFY(StartSeason(session) == SeasonStart::kStarted);
-    SetCoachRoles(session, session.humanSchool);
     // The season played as the Sim button plays it, day after day.
     SeasonRun run(session);
     SeasonRecruiting recruiting;

@@ -22,6 +22,7 @@
 #include "screenshots.h"
 #include "season/day_step.h"
 #include "season/season_run.h"
+#include "started_season.h"
 #include "store/menu_gate.h"
 
 namespace courtmere::app {
@@ -45,11 +46,8 @@ class RecruitingTest : public QObject {
 
  private slots:
   void initTestCase() {
-    dynasty_ = std::make_unique<testing::DynastyFixture>();
+    dynasty_ = testing::StartedSeason();
     Session& session = dynasty_->session();
-    MenuGate(session);
-    QVERIFY(StartSeason(session) == SeasonStart::kStarted);
-    SetCoachRoles(session, session.humanSchool);
     window_ = testing::ShowMainWindow(session);
   }
   void cleanupTestCase() {
